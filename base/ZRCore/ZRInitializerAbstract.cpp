@@ -1,0 +1,10 @@
+#include "ZRInitializerAbstract.h"
+
+ZRCommandLineParserAbstract::~ZRCommandLineParserAbstract() = default;
+
+ZRInitializerAbstract::~ZRInitializerAbstract() = default;
+
+void ZRInitializerAbstract::addCommandLineOptionHandlers(ZRCommandLineParserAbstract *parser)
+{
+    Q_UNUSED(parser)
+}

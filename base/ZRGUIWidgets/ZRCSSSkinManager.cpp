@@ -1,0 +1,25 @@
+#include "ZRCSSSkinManager.h"
+
+template class ZRSingleton<ZRCSSSkinManager>;
+
+ZRCSSSkinManager::ZRCSSSkinManager()
+    : m_backgroundColor(0xf0, 0xf0, 0xf0)
+{
+    const QColor fromEnvironment = QColor::fromString(qEnvironmentVariable("ZR_SKIN_BACKGROUND"));
+    if (fromEnvironment.isValid())
+        m_backgroundColor = fromEnvironment;
+}
+
+ZRCSSSkinManager::~ZRCSSSkinManager() = default;
+
+QColor ZRCSSSkinManager::backgroundColor() const
+{
+    QReadLocker locker(&m_lock);
+    return m_backgroundColor;
+}
+
+void ZRCSSSkinManager::setBackgroundColor(const QColor &color)
+{
+    QWriteLocker locker(&m_lock);
+    m_backgroundColor = color;
+}

@@ -1,0 +1,3 @@
+#include "ZRProductChecker.h"
+
+ZRProductChecker::~ZRProductChecker() = default;
