@@ -1,0 +1,63 @@
+#include "ZRPageTypeList.h"
+
+#include <QStringList>
+
+ZRPageTypeList::ZRPageTypeList() = default;
+
+ZRPageTypeList::ZRPageTypeList(std::initializer_list<ZRPageType> pageTypes)
+    : m_pageTypes(pageTypes)
+{
+}
+
+ZRPageTypeList::ZRPageTypeList(const QList<ZRPageType> &pageTypes)
+    : m_pageTypes(pageTypes)
+{
+}
+
+ZRPageTypeList::ZRPageTypeList(const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    m_pageTypes.reserve(parts.size());
+    for (const QString &part : parts)
+        m_pageTypes.append(ZRPageType(part.trimmed()));
+}
+
+ZRPageTypeList::ZRPageTypeList(const ZRPageTypeList &other) = default;
+ZRPageTypeList::ZRPageTypeList(ZRPageTypeList &&other) noexcept = default;
+ZRPageTypeList::~ZRPageTypeList() = default;
+ZRPageTypeList &ZRPageTypeList::operator=(const ZRPageTypeList &other) = default;
+ZRPageTypeList &ZRPageTypeList::operator=(ZRPageTypeList &&other) noexcept = default;
+
+bool ZRPageTypeList::containsPanoPageType() const
+{
+    for (const ZRPageType &pageType : m_pageTypes) {
+        if (pageType == ZRPageTypePanoramaPage)
+            return true;
+    }
+    return false;
+}
+
+bool ZRPageTypeList::containsMatch(const ZRPageType &pageType)
+{
+    m_pageTypes.detach();
+    for (const ZRPageType &entry : std::as_const(m_pageTypes)) {
+        if (entry.intersects(pageType.value()))
+            return true;
+    }
+    return false;
+}
+
+void ZRPageTypeList::appendEnum(const QList<ZRPageTypeEnum> &values)
+{
+    for (ZRPageTypeEnum value : values)
+        m_pageTypes.append(ZRPageType(value));
+}
+
+QString ZRPageTypeList::toString() const
+{
+    QStringList keys;
+    keys.reserve(m_pageTypes.size());
+    for (const ZRPageType &pageType : m_pageTypes)
+        keys.append(pageType.encodeCSV());
+    return keys.join(QLatin1String(", "));
+}
