@@ -12,7 +12,7 @@
 
 /** Hash of a plain enumeration by its underlying integer, so that enumerations can key QHash and QSet. */
 template<typename E, std::enable_if_t<std::is_enum_v<E>, bool> = true>
-inline size_t qHash(E value, size_t seed = 0) noexcept
+inline size_t qHash(E value, size_t seed) noexcept
 {
     return qHash(static_cast<std::underlying_type_t<E>>(value), seed);
 }

@@ -115,9 +115,10 @@ const ZREnumToStringTable<E> *ZREnumWrapper<E>::enumToStringTable() const
     return table;
 }
 
-/** Hash of any value class built on ZREnumWrapper, by its value. */
+/** Hash of any value class built on ZREnumWrapper, by its value. The seed has no default: a
+ * one-argument form would make Qt's own seed adaptor ambiguous. */
 template<typename W, std::enable_if_t<std::is_base_of_v<ZREnumWrapper<typename W::Enum>, W>, bool> = true>
-inline size_t qHash(const W &wrapper, size_t seed = 0) noexcept
+inline size_t qHash(const W &wrapper, size_t seed) noexcept
 {
     return qHash(static_cast<std::underlying_type_t<typename W::Enum>>(wrapper.value()), seed);
 }
