@@ -9,8 +9,7 @@
  *
  * A new set already owns its storage, so that adding to it never detaches from a shared empty set.
  */
-template<typename T>
-class ZREmptyMeansAllSet : public QSet<T>
+template<typename T> class ZREmptyMeansAllSet : public QSet<T>
 {
 public:
     ZREmptyMeansAllSet() { this->reserve(1); }

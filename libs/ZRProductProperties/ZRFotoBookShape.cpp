@@ -6,8 +6,7 @@ template class ZREnumWrapper<ZRFotoBookShapeEnum>;
 
 ZRFotoBookShape::ZRFotoBookShape(ZRFotoBookShapeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRFotoBookShape::ZRFotoBookShape(const QString &keys)
 {
@@ -31,8 +30,8 @@ void ZRFotoBookShape::fillTable(Table *table) const
     });
 }
 
-ZRFotoBookShape ZRFotoBookShape::createFromArticleProperties(const ZRSpaceMagnitude &magnitude,
-                                                             const ZROrientation &orientation)
+ZRFotoBookShape ZRFotoBookShape::createFromArticleProperties(
+    const ZRSpaceMagnitude &magnitude, const ZROrientation &orientation)
 {
     switch (magnitude.value()) {
     case ZRSpaceMagnitudeXS:

@@ -10,7 +10,8 @@
  * Formats of a photo book. Keys: "UNKONWN" 0, "mini" 1, "tiny" 2 (shown as "Kids"), "a5-landscape" 4,
  * "a5-quadratic" 8, "a4" 16, "a4-landscape" 32, "quadratic" 64, "xl" 128, "xxl" 256, "xxl-landscape" 512.
  */
-enum ZRFotoBookShapeEnum {
+enum ZRFotoBookShapeEnum
+{
     ZRFotoBookShapeUnknown = 0,
     ZRFotoBookShapeMini = 1,
     ZRFotoBookShapeTiny = 2,
@@ -34,8 +35,8 @@ public:
     explicit ZRFotoBookShape(const QString &keys);
 
     /** The shape of an article's size class and orientation; 0 where the two do not fit together. */
-    static ZRFotoBookShape createFromArticleProperties(const ZRSpaceMagnitude &magnitude,
-                                                       const ZROrientation &orientation);
+    static ZRFotoBookShape createFromArticleProperties(
+        const ZRSpaceMagnitude &magnitude, const ZROrientation &orientation);
 
     /** The size hint, such as "(ca. 15 x 11 cm)"; empty for 0 and combinations. */
     QString size() const;

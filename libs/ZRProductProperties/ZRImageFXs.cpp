@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRImageFXsEnum>;
 
 ZRImageFXs::ZRImageFXs(ZRImageFXsEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRImageFXs::ZRImageFXs(const QString &keys)
 {

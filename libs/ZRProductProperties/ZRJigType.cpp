@@ -8,8 +8,7 @@ template class ZREnumWrapper<ZRJigTypeEnum>;
 
 ZRJigType::ZRJigType(ZRJigTypeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRJigType::ZRJigType(const QString &keys)
 {

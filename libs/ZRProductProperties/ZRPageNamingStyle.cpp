@@ -6,8 +6,7 @@ template class ZREnumWrapper<ZRPageNamingStyleEnum>;
 
 ZRPageNamingStyle::ZRPageNamingStyle(ZRPageNamingStyleEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRPageNamingStyle::ZRPageNamingStyle(const QString &keys)
 {

@@ -6,8 +6,10 @@
 
 #include <QDomElement>
 
-/** How the editor names the pages of a product. "none" is a flag of its own (bit 21), not 0; "slipcase" is bit 31, so encodeCSV() of any value holding it gives "UNKOWN". Values without a key encode as "UNKOWN". */
-enum ZRPageNamingStyleEnum {
+/** How the editor names the pages of a product. "none" is a flag of its own (bit 21), not 0; "slipcase" is bit 31, so
+ * encodeCSV() of any value holding it gives "UNKOWN". Values without a key encode as "UNKOWN". */
+enum ZRPageNamingStyleEnum
+{
     ZRPageNamingNone = 0x200000,
     ZRPageNamingBook = 1,
     ZRPageNamingCalendar = 2,

@@ -6,13 +6,11 @@ ZRPageTypeList::ZRPageTypeList() = default;
 
 ZRPageTypeList::ZRPageTypeList(std::initializer_list<ZRPageType> pageTypes)
     : m_pageTypes(pageTypes)
-{
-}
+{ }
 
 ZRPageTypeList::ZRPageTypeList(const QList<ZRPageType> &pageTypes)
     : m_pageTypes(pageTypes)
-{
-}
+{ }
 
 ZRPageTypeList::ZRPageTypeList(const QString &text)
 {

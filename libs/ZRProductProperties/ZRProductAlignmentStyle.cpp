@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRProductAlignmentStyleEnum>;
 
 ZRProductAlignmentStyle::ZRProductAlignmentStyle(ZRProductAlignmentStyleEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRProductAlignmentStyle::ZRProductAlignmentStyle(const QString &keys)
 {

@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrproductproperties_export.h"
 
-/** How the pages of a product are laid out. Keys: "normal" 0, "card" 1, "vario_card" 2, "collegeblock" 4, "foto_advent_calendar" 8. */
-enum ZRProductAlignmentStyleEnum {
+/** How the pages of a product are laid out. Keys: "normal" 0, "card" 1, "vario_card" 2, "collegeblock" 4,
+ * "foto_advent_calendar" 8. */
+enum ZRProductAlignmentStyleEnum
+{
     ZRProductAlignmentNormal = 0,
     ZRProductAlignmentCard = 1,
     ZRProductAlignmentVarioCard = 2,
@@ -15,7 +17,8 @@ enum ZRProductAlignmentStyleEnum {
 
 extern template class ZRPRODUCTPROPERTIES_EXPORT ZREnumWrapper<ZRProductAlignmentStyleEnum>;
 
-/** ZRProductAlignmentStyle: a ZRProductAlignmentStyleEnum flag set; built from comma-separated keys, case and blanks ignored. */
+/** ZRProductAlignmentStyle: a ZRProductAlignmentStyleEnum flag set; built from comma-separated keys, case and blanks
+ * ignored. */
 class ZRPRODUCTPROPERTIES_EXPORT ZRProductAlignmentStyle : public ZREnumWrapper<ZRProductAlignmentStyleEnum>
 {
 public:

@@ -5,7 +5,7 @@
 namespace {
 // Registers the library with the base initializer as soon as the library is loaded.
 ZRProductPropertiesInitializer theInitializer;
-}
+} // namespace
 
 ZRProductPropertiesInitializer::ZRProductPropertiesInitializer()
 {
@@ -20,6 +20,4 @@ void ZRProductPropertiesInitializer::setup(ZRInitializerOption option)
     // The product type registry registers itself as a product checker here once it exists.
 }
 
-void ZRProductPropertiesInitializer::teardown()
-{
-}
+void ZRProductPropertiesInitializer::teardown() { }

@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRSurroundingTypeEnum>;
 
 ZRSurroundingType::ZRSurroundingType(ZRSurroundingTypeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRSurroundingType::ZRSurroundingType(const QString &keys)
 {

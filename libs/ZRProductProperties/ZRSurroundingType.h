@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrproductproperties_export.h"
 
-/** Kinds of surrounding (printed frames and borders). Keys are written in upper case and read in any case; there is no key for 0. */
-enum ZRSurroundingTypeEnum {
+/** Kinds of surrounding (printed frames and borders). Keys are written in upper case and read in any case; there is no
+ * key for 0. */
+enum ZRSurroundingTypeEnum
+{
     ZRSurroundingTypeBook = 1,
     ZRSurroundingTypePhotoPaperBook = 64,
     ZRSurroundingTypeGift = 2,

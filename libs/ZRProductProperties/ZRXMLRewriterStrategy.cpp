@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRXMLRewriterStrategyEnum>;
 
 ZRXMLRewriterStrategy::ZRXMLRewriterStrategy(ZRXMLRewriterStrategyEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRXMLRewriterStrategy::ZRXMLRewriterStrategy(const QString &keys)
 {

@@ -4,8 +4,11 @@
 #include "ZREnumWrapper.h"
 #include "zrproductproperties_export.h"
 
-/** How an old project file is rewritten for a product. Two keys name combined values: "RewriteOneSidedEasyToTwoSidedVario" (5) and "RewriteOneSidedVario10ToTwoSidedVario5" (9); any other text decodes to 0 (no rewriting). */
-enum ZRXMLRewriterStrategyEnum {
+/** How an old project file is rewritten for a product. Two keys name combined values:
+ * "RewriteOneSidedEasyToTwoSidedVario" (5) and "RewriteOneSidedVario10ToTwoSidedVario5" (9); any other text decodes to
+ * 0 (no rewriting). */
+enum ZRXMLRewriterStrategyEnum
+{
     ZRXMLRewriterOneToTwoSides = 1,
     ZRXMLRewriterOneToTwoPages = 2,
     ZRXMLRewriterEasyToVario = 4,
@@ -17,7 +20,8 @@ enum ZRXMLRewriterStrategyEnum {
 
 extern template class ZRPRODUCTPROPERTIES_EXPORT ZREnumWrapper<ZRXMLRewriterStrategyEnum>;
 
-/** ZRXMLRewriterStrategy: a ZRXMLRewriterStrategyEnum flag set; built from comma-separated keys, case and blanks ignored. */
+/** ZRXMLRewriterStrategy: a ZRXMLRewriterStrategyEnum flag set; built from comma-separated keys, case and blanks
+ * ignored. */
 class ZRPRODUCTPROPERTIES_EXPORT ZRXMLRewriterStrategy : public ZREnumWrapper<ZRXMLRewriterStrategyEnum>
 {
 public:

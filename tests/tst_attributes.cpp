@@ -1,0 +1,265 @@
+#include "ZRFotoBookShape.h"
+#include "ZRImageFXs.h"
+#include "ZRJigType.h"
+#include "ZRJigTypeList.h"
+#include "ZRPageNamingStyle.h"
+#include "ZRProductAlignmentStyle.h"
+#include "ZRSurroundingType.h"
+
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QTest>
+
+class tst_Attributes : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+
+    void imageEffects_data();
+    void imageEffects();
+    void jigTypes_data();
+    void jigTypes();
+    void jigDownloadTypes_data();
+    void jigDownloadTypes();
+    void jigTypeLists();
+    void pageNamingStyle_data();
+    void pageNamingStyle();
+    void pageNamingStyleXmlRoundTrip_data();
+    void pageNamingStyleXmlRoundTrip();
+    void alignmentStyleSinglePages_data();
+    void alignmentStyleSinglePages();
+    void alignmentStyleExpandToKeyword();
+    void surroundingTypes();
+    void shapeFromArticleProperties_data();
+    void shapeFromArticleProperties();
+    void shapeTexts_data();
+    void shapeTexts();
+};
+
+void tst_Attributes::imageEffects_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("gray");
+    QTest::newRow("gray with alpha") << QStringLiteral("Gray, PRESERVE_ALPHA_CHANNEL") << 5 << true;
+    QTest::newRow("grayscale") << QStringLiteral("grayscale") << 1 << true;
+    QTest::newRow("alpha only, lower case") << QStringLiteral("preserve_alpha_channel") << 4 << false;
+    QTest::newRow("none") << QStringLiteral("none") << 0 << false;
+}
+
+void tst_Attributes::imageEffects()
+{
+    QFETCH(QString, text);
+    QFETCH(int, value);
+    QFETCH(bool, gray);
+    const ZRImageFXs effects(text);
+    QCOMPARE(int(effects.value()), value);
+    QCOMPARE(effects.isGray(), gray);
+}
+
+void tst_Attributes::jigTypes_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("display");
+    QTest::newRow("Rahmen") << QStringLiteral("Rahmen") << 128 << QStringLiteral("Rahmen");
+    QTest::newRow("passepartout is the mask") << QStringLiteral("passepartout") << 16 << QStringLiteral("Maske");
+    QTest::newRow("frame_passepartout") << QStringLiteral("frame_passepartout") << 256
+                                        << QStringLiteral("Passepartout");
+    QTest::newRow("content is design") << QStringLiteral("contents") << 4 << QStringLiteral("Design");
+    QTest::newRow("background synonym") << QStringLiteral("background_refinement") << 1
+                                        << QStringLiteral("Hintergrund");
+    QTest::newRow("styles") << QStringLiteral("STYLES_V2") << 2048 << QStringLiteral("Stil");
+    QTest::newRow("variant template has no name") << QStringLiteral("variant_template") << 8192 << QString();
+    QTest::newRow("combination has no name") << QStringLiteral("frame,frame_glas") << 640 << QString();
+    QTest::newRow("unknown") << QStringLiteral("sticker") << 0 << QString();
+}
+
+void tst_Attributes::jigTypes()
+{
+    QFETCH(QString, key);
+    QFETCH(int, value);
+    QFETCH(QString, display);
+    const ZRJigType jig(key);
+    QCOMPARE(int(jig.value()), value);
+    QCOMPARE(jig.describe(), display);
+}
+
+void tst_Attributes::jigDownloadTypes_data()
+{
+    QTest::addColumn<int>("jig");
+    QTest::addColumn<int>("dlp");
+    QTest::addColumn<bool>("downloadable");
+    QTest::newRow("clipart") << 2 << 8 << true;
+    QTest::newRow("styles and storybook") << 6144 << 66 << false;
+    QTest::newRow("frame has none") << 128 << 0 << false;
+    QTest::newRow("layout") << 8 << 32 << true;
+    QTest::newRow("keyless 16384") << 16384 << 1024 << false;
+    QTest::newRow("unknown jig") << 0 << 0 << false;
+}
+
+void tst_Attributes::jigDownloadTypes()
+{
+    QFETCH(int, jig);
+    QFETCH(int, dlp);
+    QFETCH(bool, downloadable);
+    const ZRJigType type { ZRJigTypeEnum(jig) };
+    QCOMPARE(int(type.dlpType().value()), dlp);
+    QCOMPARE(type.isDownloadable(), downloadable);
+    if (dlp != 0)
+        QCOMPARE(ZRJigType::createFromDlpType(ZRDlpType(ZRDlpTypeEnum(dlp))), type);
+}
+
+void tst_Attributes::jigTypeLists()
+{
+    const auto values = [](const ZRJigTypeList &list) {
+        QList<int> result;
+        for (const ZRJigType &type : list)
+            result.append(int(type.value()));
+        return result;
+    };
+    QCOMPARE(values(ZRJigTypeList::allElementTypes()), (QList<int> { 0, 1, 2, 4, 8, 16, 2048 }));
+    QCOMPARE(values(ZRJigTypeList::allDownloadableElementTypes()), (QList<int> { 1, 2, 4, 16, 2048, 8 }));
+    QCOMPARE(ZRJigType::createFromDlpType(ZRDlpType(ZRDlpTypeEnum(512))).value(), ZRJigTypeUnknown);
+}
+
+void tst_Attributes::pageNamingStyle_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<qint64>("value");
+    QTest::addColumn<QString>("csv");
+    QTest::newRow("none is bit 21") << QStringLiteral("none") << qint64(2097152) << QStringLiteral("none");
+    QTest::newRow("unknown key") << QStringLiteral("scrapbook") << qint64(0) << QStringLiteral("UNKOWN");
+    QTest::newRow("pillow with dash") << QStringLiteral("Premium-Pillow") << qint64(64)
+                                      << QStringLiteral("premium-pillow");
+    QTest::newRow("slipcase") << QStringLiteral("slipcase") << qint64(2147483648) << QStringLiteral("UNKOWN");
+    QTest::newRow("two styles") << QStringLiteral("agenda,book") << qint64(32769) << QStringLiteral("book, agenda");
+}
+
+void tst_Attributes::pageNamingStyle()
+{
+    QFETCH(QString, text);
+    QFETCH(qint64, value);
+    QFETCH(QString, csv);
+    const ZRPageNamingStyle style(text);
+    QCOMPARE(qint64(quint32(style.value())), value);
+    QCOMPARE(style.encodeCSV(), csv);
+}
+
+void tst_Attributes::pageNamingStyleXmlRoundTrip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("calendar") << QStringLiteral("calendar");
+    QTest::newRow("slipcase survives as a negative number") << QStringLiteral("slipcase,book");
+    QTest::newRow("zero") << QString();
+}
+
+void tst_Attributes::pageNamingStyleXmlRoundTrip()
+{
+    QFETCH(QString, text);
+    QDomDocument document;
+    QDomElement element = document.createElement(QStringLiteral("product"));
+    const ZRPageNamingStyle style(text);
+    style.toXml(element);
+    QVERIFY(element.hasAttribute(ZRPageNamingStyle::defaultAttributeName()));
+    QCOMPARE(ZRPageNamingStyle::fromXml(element), style);
+    QCOMPARE(ZRPageNamingStyle::fromXml(document.createElement(QStringLiteral("empty"))).value(), ZRPageNamingUnknown);
+}
+
+void tst_Attributes::alignmentStyleSinglePages_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("single");
+    QTest::newRow("normal") << 0 << false;
+    QTest::newRow("card") << 1 << true;
+    QTest::newRow("vario card") << 2 << false;
+    QTest::newRow("collegeblock") << 4 << true;
+    QTest::newRow("advent calendar") << 8 << true;
+    QTest::newRow("card and collegeblock") << 5 << false;
+}
+
+void tst_Attributes::alignmentStyleSinglePages()
+{
+    QFETCH(int, value);
+    QFETCH(bool, single);
+    QCOMPARE(ZRProductAlignmentStyle(ZRProductAlignmentStyleEnum(value)).hasOnlySinglePages(), single);
+}
+
+void tst_Attributes::alignmentStyleExpandToKeyword()
+{
+    ZRProductAlignmentStyle style(QStringLiteral("card"));
+    style.expandToKeyword(QStringLiteral(" COLLEGEBLOCK "));
+    QCOMPARE(int(style.value()), 5);
+    style.expandToKeyword(QStringLiteral("nonsense"));
+    QCOMPARE(int(style.value()), 5);
+}
+
+void tst_Attributes::surroundingTypes()
+{
+    QCOMPARE(int(ZRSurroundingType(QStringLiteral("frame_combined")).value()), 8192);
+    QCOMPARE(int(ZRSurroundingType(QStringLiteral("Calendar_Fineline")).value()), 131072);
+    QCOMPARE(ZRSurroundingType(ZRSurroundingTypePhotoPaperBook).encode(), QStringLiteral("PHOTOPAPERBOOK"));
+    QCOMPARE(ZRSurroundingType(ZRSurroundingTypeNone).encode(), QString());
+    QVERIFY(!ZRSurroundingType(QStringLiteral("none")).isValid());
+}
+
+void tst_Attributes::shapeFromArticleProperties_data()
+{
+    QTest::addColumn<int>("magnitude");
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<int>("shape");
+    const int portrait = ZROrientationPortrait, landscape = ZROrientationLandscape, square = ZROrientationQuadratic;
+    QTest::newRow("mini") << 2 << portrait << 1;
+    QTest::newRow("kids") << 4 << square << 2;
+    QTest::newRow("compact square") << 8 << square << 8;
+    QTest::newRow("compact square needs square") << 8 << landscape << 0;
+    QTest::newRow("compact landscape") << 16 << landscape << 4;
+    QTest::newRow("square") << 64 << square << 64;
+    QTest::newRow("large landscape") << 128 << landscape << 32;
+    QTest::newRow("large portrait") << 128 << portrait << 16;
+    QTest::newRow("large square fits nothing") << 128 << square << 0;
+    QTest::newRow("xl") << 256 << square << 128;
+    QTest::newRow("xxl landscape") << 512 << landscape << 512;
+    QTest::newRow("xxl portrait") << 512 << portrait << 256;
+    QTest::newRow("other size class") << 32 << portrait << 0;
+}
+
+void tst_Attributes::shapeFromArticleProperties()
+{
+    QFETCH(int, magnitude);
+    QFETCH(int, orientation);
+    QFETCH(int, shape);
+    const ZRFotoBookShape result = ZRFotoBookShape::createFromArticleProperties(
+        ZRSpaceMagnitude(ZRSpaceMagnitudeEnum(magnitude)), ZROrientation(ZROrientationEnum(orientation)));
+    QCOMPARE(int(result.value()), shape);
+}
+
+void tst_Attributes::shapeTexts_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("xxl landscape in capitals")
+        << QStringLiteral("XXL-LANDSCAPE") << QStringLiteral("(ca. 38 x 29 cm)") << QStringLiteral("XXL Panorama");
+    QTest::newRow("tiny is shown as kids")
+        << QStringLiteral("tiny") << QStringLiteral("(ca. 14 x 14 cm)") << QStringLiteral("Kids");
+    QTest::newRow("a4 landscape") << QStringLiteral("a4-landscape") << QStringLiteral("(ca. 28 x 21 cm)")
+                                  << QStringLiteral("Groß Panorama");
+    QTest::newRow("two flags") << QStringLiteral("mini,xl") << QString() << QString();
+    QTest::newRow("unknown") << QStringLiteral("UNKONWN") << QString() << QString();
+}
+
+void tst_Attributes::shapeTexts()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, size);
+    QFETCH(QString, name);
+    const ZRFotoBookShape shape(key);
+    QCOMPARE(shape.size(), size);
+    QCOMPARE(shape.sizeDescription(), name);
+    QCOMPARE(shape.completeDescription(), QStringLiteral("ZERA FOTOBUCH ") + name + QLatin1Char(' ') + size);
+}
+
+QTEST_GUILESS_MAIN(tst_Attributes)
+#include "tst_attributes.moc"

@@ -1,0 +1,261 @@
+#include "ZRArticleVariants.h"
+#include "ZRDirectoryConfig.h"
+#include "ZRInitializer.h"
+#include "ZRPageContext.h"
+#include "ZRProductCheckerRegistry.h"
+#include "ZRProductPropertiesInitializer.h"
+#include "ZRXMLBuilder.h"
+#include "ZRXMLParser.h"
+
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+QDomElement parse(const QString &xml)
+{
+    QDomDocument document;
+    document.setContent(xml);
+    return document.documentElement();
+}
+
+class FixedChecker : public ZRProductChecker
+{
+public:
+    FixedChecker(int type, const QString &accepted)
+        : m_type(type)
+        , m_accepted(accepted)
+    { }
+    bool isValid(const ZRProductType &type) const override { return type.name() == m_accepted; }
+    int type() const override { return m_type; }
+    bool isValidBoxStyle(const ZRProductType &, const ZRArticleVariants &) const override { return true; }
+
+private:
+    int m_type;
+    QString m_accepted;
+};
+
+class RecordingInitializer : public ZRInitializerAbstract
+{
+public:
+    RecordingInitializer(QStringList *log, const QString &name)
+        : m_log(log)
+        , m_name(name)
+    { }
+    void setup(ZRInitializerOption option) override
+    {
+        m_log->append(m_name + QLatin1String(" setup ") + QString::number(option));
+    }
+    void teardown() override { m_log->append(m_name + QLatin1String(" teardown")); }
+
+private:
+    QStringList *m_log;
+    QString m_name;
+};
+} // namespace
+
+class tst_Base : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+
+    void boolAttribute_data();
+    void boolAttribute();
+    void intAttribute_data();
+    void intAttribute();
+    void geometry();
+    void buildDomElement();
+    void productTypeAsHashKey();
+    void pageContextMatching_data();
+    void pageContextMatching();
+    void articleVariants();
+    void checkerRegistryMask();
+    void initializerOrder();
+    void libraryRegistersItsInitializerOnLoad();
+    void directoryConfigResources();
+};
+
+void tst_Base::boolAttribute_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<bool>("defaultValue");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("TRUE") << QStringLiteral("<e a='TRUE'/>") << false << true;
+    QTest::newRow("Yes") << QStringLiteral("<e a='Yes'/>") << false << true;
+    QTest::newRow("1") << QStringLiteral("<e a='1'/>") << false << true;
+    QTest::newRow("no") << QStringLiteral("<e a='no'/>") << true << false;
+    QTest::newRow("False") << QStringLiteral("<e a='False'/>") << true << false;
+    QTest::newRow("0") << QStringLiteral("<e a=' 0 '/>") << true << false;
+    QTest::newRow("garbage keeps default") << QStringLiteral("<e a='maybe'/>") << true << true;
+    QTest::newRow("missing keeps default") << QStringLiteral("<e/>") << true << true;
+    QTest::newRow("empty keeps default") << QStringLiteral("<e a=''/>") << false << false;
+}
+
+void tst_Base::boolAttribute()
+{
+    QFETCH(QString, xml);
+    QFETCH(bool, defaultValue);
+    QFETCH(bool, expected);
+    const QDomElement element = parse(xml);
+    QCOMPARE(ZRXMLParser::boolAttribute(element, QStringLiteral("a"), defaultValue), expected);
+    QCOMPARE(ZRXMLParser::boolAttribute(element.attributes(), QStringLiteral("a"), defaultValue), expected);
+}
+
+void tst_Base::intAttribute_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("number") << QStringLiteral("<e a='42'><c>7</c></e>") << 42;
+    QTest::newRow("negative with blanks") << QStringLiteral("<e a=' -3 '/>") << -3;
+    QTest::newRow("malformed") << QStringLiteral("<e a='4x'/>") << -99;
+    QTest::newRow("too large") << QStringLiteral("<e a='4294967296'/>") << -99;
+    QTest::newRow("missing") << QStringLiteral("<e/>") << -99;
+}
+
+void tst_Base::intAttribute()
+{
+    QFETCH(QString, xml);
+    QFETCH(int, expected);
+    const QDomElement element = parse(xml);
+    QCOMPARE(ZRXMLParser::intAttribute(element, QStringLiteral("a"), -99), expected);
+    QCOMPARE(ZRXMLParser::intAttribute(element.attributes(), QStringLiteral("a"), -99), expected);
+}
+
+void tst_Base::geometry()
+{
+    const QDomElement full = parse(QStringLiteral("<e x='1' y='2' width='30' height='40.5'/>"));
+    QCOMPARE(ZRXMLParser::readRect(full.attributes()), QRect(1, 2, 30, 0));
+    QCOMPARE(ZRXMLParser::readRectF(full.attributes()), QRectF(1, 2, 30, 40.5));
+    QVERIFY(ZRXMLParser::readRect(parse(QStringLiteral("<e/>")).attributes()).isNull());
+    QCOMPARE(ZRXMLParser::readSize(parse(QStringLiteral("<e width='7'/>"))), QSize(7, -1));
+    QCOMPARE(ZRXMLParser::readVector3D(parse(QStringLiteral("<e x='1.5' z='x'/>")).attributes(), QStringLiteral("x"),
+                 QStringLiteral("y"), QStringLiteral("z"), 9, 8, 7),
+        QVector3D(1.5f, 8, 7));
+    QCOMPARE(ZRXMLParser::readAngle(QDomElement(), QStringLiteral("angle"), 270), 270);
+    QCOMPARE(ZRXMLParser::intText(parse(QStringLiteral("<e><n> 12 </n></e>")), QStringLiteral("n"), 0), 12);
+    QCOMPARE(ZRXMLParser::intText(parse(QStringLiteral("<e/>")), QStringLiteral("n"), 5), 5);
+    const ZRDistance distance = ZRXMLParser::readDistance(
+        parse(QStringLiteral("<m/>")), QStringLiteral("d"), 50.0, ZRDistanceUnit(ZRDistanceUnitTenthMM));
+    QCOMPARE(distance.value(), 50.0);
+    QCOMPARE(distance.unit().value(), ZRDistanceUnitTenthMM);
+}
+
+void tst_Base::buildDomElement()
+{
+    QDomDocument document;
+    QDomElement root = document.createElement(QStringLiteral("root"));
+    document.appendChild(root);
+    ZRXMLBuilder::buildDomElement(root, QStringLiteral("subcategory"), QStringLiteral("Farben"));
+    ZRXMLBuilder::buildDomElement(root, QStringLiteral("subcategory"), QStringLiteral("Gold"));
+    QCOMPARE(document.toString(-1),
+        QStringLiteral("<root><subcategory>Farben</subcategory><subcategory>Gold</subcategory></root>"));
+}
+
+void tst_Base::productTypeAsHashKey()
+{
+    QHash<ZRProductType, int> hash;
+    hash.insert(ZRProductType(QStringLiteral("book-a4")), 1);
+    hash.insert(ZRProductType(QStringLiteral("book-a4")), 2);
+    hash.insert(ZRProductType(QStringLiteral("Book-A4")), 3);
+    QCOMPARE(hash.size(), 2);
+    QCOMPARE(hash.value(ZRProductType(QStringLiteral("book-a4"))), 2);
+    QVERIFY(!ZRProductType(QString()).isValid());
+    QVERIFY(!ZRProductType().isValid());
+    QVERIFY(ZRProductType(QStringLiteral(" ")).isValid());
+}
+
+void tst_Base::pageContextMatching_data()
+{
+    QTest::addColumn<int>("typeA");
+    QTest::addColumn<int>("alignA");
+    QTest::addColumn<int>("typeB");
+    QTest::addColumn<int>("alignB");
+    QTest::addColumn<bool>("matches");
+    QTest::newRow("both share") << 0xF03F9 << 0x7F << 8 << 1 << true;
+    QTest::newRow("types disjoint") << 0x20 << 0x7F << 8 << 1 << false;
+    QTest::newRow("alignments disjoint") << 8 << 2 << 8 << 1 << false;
+    QTest::newRow("zero alignment") << 8 << 0 << 8 << 1 << false;
+}
+
+void tst_Base::pageContextMatching()
+{
+    QFETCH(int, typeA);
+    QFETCH(int, alignA);
+    QFETCH(int, typeB);
+    QFETCH(int, alignB);
+    QFETCH(bool, matches);
+    const ZRPageContext a { ZRPageTypeEnum(typeA), ZRPageAlignmentEnum(alignA) };
+    const ZRPageContext b { ZRPageTypeEnum(typeB), ZRPageAlignmentEnum(alignB) };
+    QCOMPARE(a.matchesWith(b), matches);
+    QCOMPARE(b.matchesWith(a), matches);
+    QCOMPARE(a == b, typeA == typeB && alignA == alignB);
+}
+
+void tst_Base::articleVariants()
+{
+    QVERIFY(!ZRArticleVariants().isValid());
+    QVERIFY(!ZRArticleVariants(QString()).isValid());
+    const ZRArticleVariants white(QStringLiteral("color = white; size=large"));
+    QVERIFY(white.isValid());
+    QCOMPARE(white, ZRArticleVariants(QStringLiteral("size=large,color=white")));
+    QVERIFY(white != ZRArticleVariants(QStringLiteral("color=black;size=large")));
+    QCOMPARE(white.toString(), QStringLiteral("color=white;size=large"));
+}
+
+void tst_Base::checkerRegistryMask()
+{
+    ZRProductCheckerRegistry registry;
+    const ZRProductType book(QStringLiteral("book"));
+    QVERIFY(registry.isValid(book, ZRProductCheckerAll));
+    FixedChecker article(ZRProductCheckerArticle, QStringLiteral("book"));
+    FixedChecker price(ZRProductCheckerPrice, QStringLiteral("calendar"));
+    registry.registerChecker(&article);
+    registry.registerChecker(&price);
+    registry.registerChecker(&article);
+    QCOMPARE(registry.checkers().size(), 2);
+    QVERIFY(registry.isValid(book, ZRProductCheckerArticle));
+    QVERIFY(!registry.isValid(book, ZRProductCheckerAll));
+    QVERIFY(registry.isValid(book, ZRProductCheckerProductType));
+}
+
+void tst_Base::initializerOrder()
+{
+    QStringList log;
+    ZRInitializer initializer;
+    RecordingInitializer first(&log, QStringLiteral("first"));
+    RecordingInitializer second(&log, QStringLiteral("second"));
+    initializer.registerInitializer(&first);
+    initializer.registerInitializer(&second);
+    initializer.registerInitializer(&first);
+    initializer.setupAll(ZRInitializerHeadless);
+    initializer.teardownAll();
+    QCOMPARE(log, (QStringList { "first setup 1", "second setup 1", "second teardown", "first teardown" }));
+}
+
+void tst_Base::libraryRegistersItsInitializerOnLoad()
+{
+    // The library's static initializer registered with the one process-wide ZRInitializer that this
+    // program sees too.
+    int found = 0;
+    const auto initializers = ZRSingleton<ZRInitializer>::instance()->initializers();
+    for (ZRInitializerAbstract *initializer : initializers)
+        found += dynamic_cast<ZRProductPropertiesInitializer *>(initializer) != nullptr;
+    QCOMPARE(found, 1);
+}
+
+void tst_Base::directoryConfigResources()
+{
+    ZRDirectoryConfig config;
+    config.setResourcesDir(QDir(QStringLiteral("/opt/zr/resources")));
+    QCOMPARE(
+        config.resource(QStringLiteral("products/legacy"), false), QStringLiteral("/opt/zr/resources/products/legacy"));
+    QCOMPARE(config.productsDir(false).path(), QStringLiteral("/opt/zr/resources/products"));
+    config.setProductsDir(false, QDir(QStringLiteral("/srv/products")));
+    QCOMPARE(config.productsDir(false).path(), QStringLiteral("/srv/products"));
+    config.setGlimmerThematicTranslationsDirectories({ QStringLiteral("/a"), QStringLiteral("/b") });
+    QCOMPARE(config.allGlimmerThematicTranslationsDirectories(), (QStringList { "/a", "/b" }));
+}
+
+QTEST_GUILESS_MAIN(tst_Base)
+#include "tst_base.moc"
