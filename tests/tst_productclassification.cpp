@@ -1,0 +1,413 @@
+#include "ZRProductClassificationManager.h"
+
+#include <QCoreApplication>
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+// Answers every text as "[context]source", so tests see which context a text was translated in.
+class ContextTaggingTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        return QStringLiteral("[%1]%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+QDomElement productElement(const QString &xml)
+{
+    static QDomDocument document; // keeps the nodes alive for the element handed out
+    document.setContent(xml);
+    return document.documentElement();
+}
+
+ZRProductClassification classification(
+    const QString &name, const QString &group, const QString &cm, const QString &inch = QString())
+{
+    QDomDocument document;
+    QDomElement product = document.createElement(QStringLiteral("product"));
+    product.setAttribute(QStringLiteral("name"), name);
+    QDomElement element = document.createElement(QStringLiteral("classification"));
+    element.setAttribute(QStringLiteral("group"), group);
+    element.setAttribute(QStringLiteral("cm"), cm);
+    element.setAttribute(QStringLiteral("inch"), inch);
+    product.appendChild(element);
+    return ZRProductClassification(product);
+}
+
+// Entries are "name;group;cm;inch".
+ZRProductClassificationManager manager(const QStringList &entries)
+{
+    QList<ZRProductClassification> list;
+    for (const QString &entry : entries) {
+        const QStringList parts = entry.split(QLatin1Char(';'));
+        list.append(classification(parts.value(0), parts.value(1), parts.value(2), parts.value(3)));
+    }
+    return ZRProductClassificationManager(list);
+}
+
+const QStringList catalogue = {
+    QStringLiteral("canvas_30x20;Leinwand;30x20;12x8"), // diagonal 36.06
+    QStringLiteral("canvas_20x30;Leinwand;20x30;8x12"), // same diagonal, portrait
+    QStringLiteral("canvas_60x40;Leinwand;60x40;24x16"), // 72.11
+    QStringLiteral("canvas_90x60;Leinwand;90x60;36x24"), // 108.17
+    QStringLiteral("poster_40x30;Poster;40x30;16x12"), // 50
+    QStringLiteral("poster_30x40;Poster;30x40;12x16"), // 50
+    QStringLiteral("poster_75x50;Poster;75x50;30x20"), // 90.14
+    QStringLiteral("alu_45x30;Foto auf Alu-Dibond;45x30;18x12"), // 54.08
+    QStringLiteral("canvas_60x40_duplicate;Leinwand;60x40;24x16"),
+};
+} // namespace
+
+class tst_ProductClassification : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void sizeParsing_data();
+    void sizeParsing();
+    void missingClassification();
+    void groupLatin1RoundTrip_data();
+    void groupLatin1RoundTrip();
+    void canCustomFormat_data();
+    void canCustomFormat();
+    void visibleDescription_data();
+    void visibleDescription();
+    void descriptionsTranslatedInGroupContext();
+
+    void closestProduct_data();
+    void closestProduct();
+    void closestProductTieKeepsListOrder();
+    void typeBySizeName_data();
+    void typeBySizeName();
+    void lookupsByProductType_data();
+    void lookupsByProductType();
+    void namesAndGroupsInListOrder();
+};
+
+void tst_ProductClassification::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+}
+
+void tst_ProductClassification::sizeParsing_data()
+{
+    QTest::addColumn<QString>("cm");
+    QTest::addColumn<QString>("inch");
+    QTest::addColumn<QSize>("sizeCm");
+    QTest::addColumn<QSize>("sizeInch");
+
+    QTest::newRow("plain") << "60x40"
+                           << "24x16" << QSize(60, 40) << QSize(24, 16);
+    QTest::newRow("blanks around x") << "60 x 40"
+                                     << " 24x 16 " << QSize(60, 40) << QSize(24, 16);
+    QTest::newRow("width only") << "60"
+                                << "24x" << QSize(60, 0) << QSize(24, 0);
+    QTest::newRow("not a number") << "abcx40"
+                                  << "24xone" << QSize(0, 40) << QSize(24, 0);
+    QTest::newRow("capital X is no separator") << "60X40"
+                                               << "24X16" << QSize(0, 0) << QSize(0, 0);
+    QTest::newRow("empty") << ""
+                           << "" << QSize(0, 0) << QSize(0, 0);
+}
+
+void tst_ProductClassification::sizeParsing()
+{
+    QFETCH(QString, cm);
+    QFETCH(QString, inch);
+    QFETCH(QSize, sizeCm);
+    QFETCH(QSize, sizeInch);
+
+    const ZRProductClassification c = classification(QStringLiteral("poster"), QStringLiteral("Poster"), cm, inch);
+    QCOMPARE(c.dimensions(ZRDistanceUnit(ZRDistanceUnitCM)), sizeCm);
+    QCOMPARE(c.dimensions(ZRDistanceUnit(ZRDistanceUnitTenthMM)), sizeCm);
+    QCOMPARE(c.dimensions(ZRDistanceUnit(ZRDistanceUnitInch)), sizeInch);
+    QCOMPARE(c.sizeName(ZRDistanceUnit(ZRDistanceUnitInch)), inch);
+    QCOMPARE(c.visibleName(ZRDistanceUnit(ZRDistanceUnitMM)), cm);
+    QCOMPARE(c.areaSize(), sizeCm.width() * sizeCm.height());
+    QCOMPARE(c.sizeDiagonal(), std::hypot(double(sizeCm.width()), double(sizeCm.height())));
+    QCOMPARE(c.sizeNameWithUnit(ZRDistanceUnit(ZRDistanceUnitInch)), inch + QStringLiteral(" Zoll"));
+    QCOMPARE(c.sizeNameWithUnit(ZRDistanceUnit(ZRDistanceUnitCM)), cm + QStringLiteral(" cm"));
+}
+
+void tst_ProductClassification::missingClassification()
+{
+    const ZRProductClassification c(productElement(QStringLiteral("<product name=\"mug\"/>")));
+    QCOMPARE(c.productType(), ZRProductType(QStringLiteral("mug")));
+    QCOMPARE(c.group(), ZRProductClassificationGroup());
+    QCOMPARE(c.sizeName(ZRDistanceUnit(ZRDistanceUnitCM)), QString());
+    QCOMPARE(c.dimensions(ZRDistanceUnit(ZRDistanceUnitCM)), QSize(0, 0));
+
+    const ZRProductClassification fromNull { QDomElement() };
+    QVERIFY(!fromNull.productType().isValid());
+    QCOMPARE(fromNull, ZRProductClassification());
+}
+
+void tst_ProductClassification::groupLatin1RoundTrip_data()
+{
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("read");
+
+    QTest::newRow("ascii") << "Leinwand"
+                           << "Leinwand";
+    QTest::newRow("latin-1 umlaut survives") << "Glänzend Ölbild"
+                                             << "Glänzend Ölbild";
+    QTest::newRow("euro sign is lost") << "Poster €"
+                                       << "Poster ?";
+    QTest::newRow("polish letters are lost") << "Łódź"
+                                             << "?ód?";
+}
+
+void tst_ProductClassification::groupLatin1RoundTrip()
+{
+    QFETCH(QString, written);
+    QFETCH(QString, read);
+
+    const ZRProductClassification c = classification(QStringLiteral("p"), written, QStringLiteral("10x10"));
+    QCOMPARE(c.group().value(), read);
+}
+
+void tst_ProductClassification::canCustomFormat_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("expected");
+
+    QTest::newRow("own group not listed") << "Leinwand"
+                                          << "" << false;
+    QTest::newRow("own group listed") << "Gallery Print digital"
+                                      << "" << true;
+    QTest::newRow("named group overrides own") << "Leinwand"
+                                               << "Foto auf Alu-Dibond" << true;
+    QTest::newRow("named group not listed") << "Gallery Print digital"
+                                            << "Leinwand" << false;
+    QTest::newRow("match is case-sensitive") << "gallery print digital"
+                                             << "" << false;
+    QTest::newRow("default group") << ""
+                                   << "" << false;
+    QTest::newRow("foam board") << "Foto auf Hartschaumplatte digital"
+                                << "" << true;
+    QTest::newRow("acrylic glass") << "Poster hinter Acryl-Glas digital"
+                                   << "" << true;
+}
+
+void tst_ProductClassification::canCustomFormat()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, name);
+    QFETCH(bool, expected);
+
+    QCOMPARE(ZRProductClassificationGroup(group).canCustomFormat(name), expected);
+    QCOMPARE(ZRProductClassificationGroup::customFormatProductWhiteList().size(), 6);
+}
+
+void tst_ProductClassification::visibleDescription_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("description");
+
+    QTest::newRow("decoration poster") << "Deko-Poster"
+                                       << "Poster";
+    QTest::newRow("canvas") << "Leinwand"
+                            << "Fotoleinwand";
+    QTest::newRow("acrylic") << "Poster hinter Acryl-Glas"
+                             << "Foto hinter Acrylglas";
+    QTest::newRow("glossy") << "Premium Poster (glossy)"
+                            << "Premium Poster Fotopapier Glänzend";
+    QTest::newRow("recycled") << "Premium Poster (matt recycelt)"
+                              << "Premium Poster Digitaldruck Matt (100% recycelt)";
+    QTest::newRow("rail") << "PGAP"
+                          << "Fotoleiste als Gallery Print (Direktdruck)";
+    QTest::newRow("last entry") << "MLP"
+                                << "Photo Streetmap Poster";
+    QTest::newRow("unknown") << "Holz"
+                             << "";
+    QTest::newRow("default group") << ""
+                                   << "";
+}
+
+void tst_ProductClassification::visibleDescription()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, description);
+
+    QCOMPARE(ZRProductClassificationGroup(group).visibleDescription(), description);
+}
+
+void tst_ProductClassification::descriptionsTranslatedInGroupContext()
+{
+    ContextTaggingTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    ZRLookUpTable<QString, QString> table;
+    ZRProductClassificationGroup().initDescriptions(&table);
+    QCoreApplication::removeTranslator(&translator);
+
+    QCOMPARE(table.size(), 24);
+    QCOMPARE(table.value(QStringLiteral("Leinwand")), QStringLiteral("[ZRProductClassificationGroup]Fotoleinwand"));
+    QCOMPARE(table.value(QStringLiteral("PF")), QStringLiteral("[ZRProductClassificationGroup]Foto im Rahmen"));
+}
+
+void tst_ProductClassification::closestProduct_data()
+{
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QString>("reference");
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("smaller material, earliest of a tie") << catalogue << "poster_40x30"
+                                                         << "Leinwand"
+                                                         << "canvas_30x20";
+    QTest::newRow("nearest larger") << catalogue << "canvas_60x40"
+                                    << "Poster"
+                                    << "poster_75x50";
+    QTest::newRow("beyond the largest") << catalogue << "canvas_90x60"
+                                        << "Poster"
+                                        << "poster_75x50";
+    QTest::newRow("portrait and landscape tie") << catalogue << "alu_45x30"
+                                                << "Poster"
+                                                << "poster_40x30";
+    QTest::newRow("own group gives itself") << catalogue << "canvas_60x40"
+                                            << "Leinwand"
+                                            << "canvas_60x40";
+    QTest::newRow("missing reference gives smallest") << catalogue << "mug"
+                                                      << "Leinwand"
+                                                      << "canvas_30x20";
+    QTest::newRow("group without products") << catalogue << "canvas_60x40"
+                                            << "Holz"
+                                            << "";
+    QTest::newRow("default group") << catalogue << "canvas_60x40"
+                                   << ""
+                                   << "";
+    QTest::newRow("group is case-sensitive") << catalogue << "canvas_60x40"
+                                             << "leinwand"
+                                             << "";
+    QTest::newRow("empty manager") << QStringList() << "canvas_60x40"
+                                   << "Leinwand"
+                                   << "";
+}
+
+void tst_ProductClassification::closestProduct()
+{
+    QFETCH(QStringList, entries);
+    QFETCH(QString, reference);
+    QFETCH(QString, group);
+    QFETCH(QString, expected);
+
+    const ZRProductType result = manager(entries).closestProduct(ZRProductType(reference), group);
+    QCOMPARE(result, ZRProductType(expected));
+    QCOMPARE(result.isValid(), !expected.isEmpty());
+}
+
+void tst_ProductClassification::closestProductTieKeepsListOrder()
+{
+    const QStringList portraitFirst = {
+        QStringLiteral("poster_30x40;Poster;30x40"),
+        QStringLiteral("poster_40x30;Poster;40x30"),
+        QStringLiteral("alu_45x30;Foto auf Alu-Dibond;45x30"),
+    };
+    const ZRProductType reference(QStringLiteral("alu_45x30"));
+    QCOMPARE(manager(portraitFirst).closestProduct(reference, QStringLiteral("Poster")),
+        ZRProductType(QStringLiteral("poster_30x40")));
+
+    QStringList landscapeFirst = portraitFirst;
+    landscapeFirst.swapItemsAt(0, 1);
+    QCOMPARE(manager(landscapeFirst).closestProduct(reference, QStringLiteral("Poster")),
+        ZRProductType(QStringLiteral("poster_40x30")));
+}
+
+void tst_ProductClassification::typeBySizeName_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("sizeName");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("metric") << "Leinwand"
+                            << "60x40" << int(ZRDistanceUnitCM) << "canvas_60x40";
+    QTest::newRow("first of duplicates") << "Leinwand"
+                                         << "60x40" << int(ZRDistanceUnitMM) << "canvas_60x40";
+    QTest::newRow("inch") << "Poster"
+                          << "12x16" << int(ZRDistanceUnitInch) << "poster_30x40";
+    QTest::newRow("metric name with inch unit") << "Poster"
+                                                << "30x40" << int(ZRDistanceUnitInch) << "";
+    QTest::newRow("size of another group") << "Poster"
+                                           << "60x40" << int(ZRDistanceUnitCM) << "";
+    QTest::newRow("names compared exactly") << "Leinwand"
+                                            << "60 x 40" << int(ZRDistanceUnitCM) << "";
+}
+
+void tst_ProductClassification::typeBySizeName()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, sizeName);
+    QFETCH(int, unit);
+    QFETCH(QString, expected);
+
+    QCOMPARE(manager(catalogue).type(
+                 ZRProductClassificationGroup(group), sizeName, ZRDistanceUnit(ZRDistanceUnitEnum(unit))),
+        ZRProductType(expected));
+}
+
+void tst_ProductClassification::lookupsByProductType_data()
+{
+    QTest::addColumn<QString>("product");
+    QTest::addColumn<QString>("nameCm");
+    QTest::addColumn<QString>("nameInch");
+    QTest::addColumn<QString>("group");
+
+    QTest::newRow("canvas") << "canvas_90x60"
+                            << "90x60"
+                            << "36x24"
+                            << "Leinwand";
+    QTest::newRow("alu") << "alu_45x30"
+                         << "45x30"
+                         << "18x12"
+                         << "Foto auf Alu-Dibond";
+    QTest::newRow("unclassified") << "mug"
+                                  << ""
+                                  << ""
+                                  << "";
+}
+
+void tst_ProductClassification::lookupsByProductType()
+{
+    QFETCH(QString, product);
+    QFETCH(QString, nameCm);
+    QFETCH(QString, nameInch);
+    QFETCH(QString, group);
+
+    const ZRProductClassificationManager m = manager(catalogue);
+    const ZRProductType type(product);
+    QCOMPARE(m.classificationName(type, ZRDistanceUnit(ZRDistanceUnitCM)), nameCm);
+    QCOMPARE(m.classificationName(type, ZRDistanceUnit(ZRDistanceUnitInch)), nameInch);
+    QCOMPARE(m.classificationGroup(type), ZRProductClassificationGroup(group));
+}
+
+void tst_ProductClassification::namesAndGroupsInListOrder()
+{
+    const ZRProductClassificationManager m = manager(catalogue);
+    QCOMPARE(m.classificationNames(
+                 ZRProductClassificationGroup(QStringLiteral("Leinwand")), ZRDistanceUnit(ZRDistanceUnitCM)),
+        QStringList({ "30x20", "20x30", "60x40", "90x60", "60x40" }));
+    QCOMPARE(m.classificationNames(
+                 ZRProductClassificationGroup(QStringLiteral("Poster")), ZRDistanceUnit(ZRDistanceUnitInch)),
+        QStringList({ "16x12", "12x16", "30x20" }));
+    QCOMPARE(m.classificationNames(ZRProductClassificationGroup(), ZRDistanceUnit(ZRDistanceUnitCM)), QStringList());
+
+    const QList<ZRProductClassificationGroup> expected = {
+        ZRProductClassificationGroup(QStringLiteral("Leinwand")),
+        ZRProductClassificationGroup(QStringLiteral("Poster")),
+        ZRProductClassificationGroup(QStringLiteral("Foto auf Alu-Dibond")),
+    };
+    QCOMPARE(m.classificationGroups(), expected);
+    QCOMPARE(ZRProductClassificationManager().classificationGroups(), QList<ZRProductClassificationGroup>());
+}
+
+QTEST_GUILESS_MAIN(tst_ProductClassification)
+#include "tst_productclassification.moc"
