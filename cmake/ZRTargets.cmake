@@ -13,7 +13,9 @@ function(zr_add_library target)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${ARG_SOVERSION}
-        EXPORT_NAME ${ARG_EXPORT_NAME})
+        EXPORT_NAME ${ARG_EXPORT_NAME}
+        # Installed libraries find each other wherever the tree is installed.
+        INSTALL_RPATH "$ORIGIN")
     string(TOLOWER ${target} lower)
     generate_export_header(${target} BASE_NAME ${target} EXPORT_FILE_NAME ${lower}_export.h)
     target_include_directories(${target} PUBLIC
