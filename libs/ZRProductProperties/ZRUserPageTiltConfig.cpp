@@ -1,0 +1,42 @@
+#include "ZRUserPageTiltConfig.h"
+
+#include "ZRXMLParser.h"
+
+ZRUserPageTiltConfig::ZRUserPageTiltConfig() = default;
+
+ZRUserPageTiltConfig::ZRUserPageTiltConfig(const QDomElement &element)
+    : m_disabled(ZRXMLParser::boolAttribute(element, QStringLiteral("disabled"), false))
+    , m_pages(decodeIntList(ZRXMLParser::attribute(element, QStringLiteral("pages"), QString(), true)))
+{ }
+
+ZRUserPageTiltConfig::~ZRUserPageTiltConfig() = default;
+
+QList<int> ZRUserPageTiltConfig::decodeIntList(const QString &text)
+{
+    QList<int> result;
+    const QStringList pieces = text.simplified().split(QLatin1Char(','));
+    for (const QString &piece : pieces) {
+        bool ok = false;
+        const int value = piece.toInt(&ok, 10);
+        if (ok)
+            result.append(value);
+    }
+    return result;
+}
+
+bool ZRUserPageTiltConfig::isPageRotationDisabled(int page) const
+{
+    if (!m_disabled)
+        return false;
+    return m_pages.isEmpty() || m_pages.contains(page);
+}
+
+bool ZRUserPageTiltConfig::operator==(const ZRUserPageTiltConfig &other) const
+{
+    return m_disabled == other.m_disabled && m_pages == other.m_pages;
+}
+
+bool ZRUserPageTiltConfig::operator!=(const ZRUserPageTiltConfig &other) const
+{
+    return !(*this == other);
+}
