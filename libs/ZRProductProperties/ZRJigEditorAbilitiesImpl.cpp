@@ -1,0 +1,47 @@
+#include "ZRJigEditorAbilitiesImpl.h"
+
+#include "ZRXMLParser.h"
+
+ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl() = default;
+
+ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl(const QDomElement &element)
+    : m_enabled(ZRXMLParser::boolAttribute(element, QStringLiteral("enabled"), true))
+    , m_alignable(ZRXMLParser::boolAttribute(element, QStringLiteral("alignable"), true))
+    , m_rotatable(ZRXMLParser::boolAttribute(element, QStringLiteral("rotatable"), false))
+    , m_fullOnEachPage(ZRXMLParser::boolAttribute(element, QStringLiteral("fullOnEachPage"), true))
+    , m_exactArticle(ZRXMLParser::boolAttribute(element, QStringLiteral("exactArticle"), false))
+{
+    const QString categoriesTag = QStringLiteral("categories");
+    for (QDomElement child = element.firstChildElement(categoriesTag); !child.isNull();
+         child = child.nextSiblingElement(categoriesTag)) {
+        const ZRPageType pageTypes(ZRXMLParser::attribute(child, QStringLiteral("pageType"), QString(), true));
+        const QList<QString> keys = child.text().split(QLatin1Char(','), Qt::SkipEmptyParts, Qt::CaseSensitive);
+        const auto bits = pageTypes.enumToStringTable()->splitToBits(pageTypes.value());
+        for (const ZRPageTypeEnum bit : bits) {
+            const ZRPageType single(bit);
+            if (single.isValid())
+                m_categories.insert(single, keys);
+        }
+    }
+}
+
+ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl(const ZRJigEditorAbilitiesImpl &other) = default;
+
+ZRJigEditorAbilitiesImpl::~ZRJigEditorAbilitiesImpl() = default;
+
+QStringList ZRJigEditorAbilitiesImpl::allowedCategories(const ZRPageType &pageType) const
+{
+    return m_categories.value(pageType);
+}
+
+bool ZRJigEditorAbilitiesImpl::operator==(const ZRJigEditorAbilitiesImpl &other) const
+{
+    return m_enabled == other.m_enabled && m_alignable == other.m_alignable && m_rotatable == other.m_rotatable
+        && m_fullOnEachPage == other.m_fullOnEachPage && m_exactArticle == other.m_exactArticle
+        && m_categories == other.m_categories;
+}
+
+bool ZRJigEditorAbilitiesImpl::operator!=(const ZRJigEditorAbilitiesImpl &other) const
+{
+    return !(*this == other);
+}
