@@ -1,0 +1,48 @@
+#ifndef ZRDEFAULTTEMPLATEKEY_H
+#define ZRDEFAULTTEMPLATEKEY_H
+
+#include "ZRDefaultTemplateType.h"
+#include "ZRPageContext.h"
+#include "zrproductproperties_export.h"
+
+#include <QtGlobal>
+
+/**
+ * Describes one page for the look-up of its default template: page context, kind of template,
+ * page number and number of pages in the scene, where -1 stands for any.
+ */
+class ZRPRODUCTPROPERTIES_EXPORT ZRDefaultTemplateKey
+{
+public:
+    /** A layout key for the default page context, any page and any scene page count. */
+    ZRDefaultTemplateKey();
+    ZRDefaultTemplateKey(const ZRPageContext &pageContext, ZRDefaultTemplateType defaultTemplateType,
+        int pageNumber = -1, int scenePageCount = -1);
+    ZRDefaultTemplateKey(const ZRDefaultTemplateKey &other);
+    virtual ~ZRDefaultTemplateKey();
+    ZRDefaultTemplateKey &operator=(const ZRDefaultTemplateKey &other);
+
+    ZRPageContext pageContext() const { return m_pageContext; }
+    ZRPageType pageType() const { return m_pageContext.pageType(); }
+    ZRPageAlignment pageAlignment() const { return m_pageContext.alignment(); }
+    ZRDefaultTemplateType defaultTemplateType() const { return m_defaultTemplateType; }
+    int pageNumber() const { return m_pageNumber; }
+    int scenePageCount() const { return m_scenePageCount; }
+
+    bool operator==(const ZRDefaultTemplateKey &other) const;
+    bool operator!=(const ZRDefaultTemplateKey &other) const { return !(*this == other); }
+
+private:
+    ZRPageContext m_pageContext;
+    ZRDefaultTemplateType m_defaultTemplateType = ZRDefaultTemplateLayout;
+    int m_pageNumber = -1;
+    int m_scenePageCount = -1;
+};
+
+/**
+ * Hash of the template kind, alignment and page type; keys that differ only in page number or
+ * scene page count share a hash.
+ */
+ZRPRODUCTPROPERTIES_EXPORT size_t qHash(const ZRDefaultTemplateKey &key, size_t seed = 0) noexcept;
+
+#endif

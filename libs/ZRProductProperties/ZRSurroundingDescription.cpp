@@ -1,0 +1,114 @@
+#include "ZRSurroundingDescription.h"
+
+#include "ZRPageContext.h"
+#include "ZRSurroundingKey.h"
+#include "ZRXMLParser.h"
+
+#include <QDomElement>
+#include <QDomNamedNodeMap>
+#include <QHashFunctions>
+#include <QStringList>
+
+namespace {
+// A frame is printed on every page, whatever the description says.
+constexpr auto framePageTypes = ZRPageTypeEnum(0xF03F9);
+constexpr auto frameAlignments = ZRPageAlignmentEnum(0x7F);
+} // namespace
+
+ZRSurroundingDescription::ZRSurroundingDescription() = default;
+
+ZRSurroundingDescription::ZRSurroundingDescription(const ZRProductType &productType, const QDomElement &element)
+    : ZRSurroundingDescription(productType, element, element.attributes())
+{ }
+
+ZRSurroundingDescription::ZRSurroundingDescription(
+    const ZRProductType &productType, const QDomElement &element, const QDomNamedNodeMap &attributes)
+    : m_productType(productType)
+    , m_surroundingType(ZRXMLParser::attribute(attributes, QStringLiteral("type"), QStringLiteral("book"), true))
+    , m_pageTypes(ZRXMLParser::attribute(attributes, QStringLiteral("pageType"), QStringLiteral("all"), true))
+    , m_alignments(ZRXMLParser::attribute(
+          attributes, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle"), true))
+    , m_pageNr(ZRXMLParser::intAttribute(attributes, QStringLiteral("pageNr"), -1))
+    , m_paintOnTop(ZRXMLParser::boolAttribute(attributes, QStringLiteral("paintOnTop"), true))
+    , m_canBeHiddenByUser(ZRXMLParser::boolAttribute(attributes, QStringLiteral("canBeHiddenByUser"), false))
+    , m_hideGrafikInPreview(ZRXMLParser::boolAttribute(attributes, QStringLiteral("hideGrafikInPreview"), false))
+    , m_imageResource(ZRXMLParser::attribute(attributes, QStringLiteral("image"), QString(), true))
+    , m_imageResourceSpotColor(ZRXMLParser::attribute(attributes, QStringLiteral("imageSpotColor"), QString(), true))
+    , m_spotColor(ZRXMLParser::attribute(attributes, QStringLiteral("spotColor"), QString(), true))
+    , m_spotColorMask(parseMask(ZRXMLParser::attribute(attributes, QStringLiteral("spotColorMask"), QString(), true)))
+    , m_editableArea(ZRXMLParser::readRect(attributes))
+    , m_hasBindingShade(ZRXMLParser::boolAttribute(attributes, QStringLiteral("hasbindingshade"), false))
+    , m_hasSpineFold(ZRXMLParser::boolAttribute(attributes, QStringLiteral("hasspinefold"), false))
+    , m_spineFoldWidth(ZRXMLParser::intAttribute(attributes, QStringLiteral("spinefoldwidth"), 0))
+    , m_calendarHoleConfig(element.firstChildElement(QStringLiteral("hole")))
+    , m_spiralConfig(element.firstChildElement(QStringLiteral("spirals")))
+    , m_variant(ZRXMLParser::attribute(attributes, QStringLiteral("variant"), QString(), true))
+    , m_tileSize(ZRXMLParser::intAttribute(attributes, QStringLiteral("tileWidth"), -1),
+          ZRXMLParser::intAttribute(attributes, QStringLiteral("tileHeight"), -1))
+{
+    if (m_surroundingType == ZRSurroundingTypeFrame) {
+        m_pageTypes = ZRPageType(framePageTypes);
+        m_alignments = ZRPageAlignment(frameAlignments);
+        m_pageNr = -1;
+    }
+}
+
+ZRSurroundingDescription::ZRSurroundingDescription(const ZRSurroundingDescription &other) = default;
+ZRSurroundingDescription::ZRSurroundingDescription(ZRSurroundingDescription &&other) = default;
+ZRSurroundingDescription::~ZRSurroundingDescription() = default;
+ZRSurroundingDescription &ZRSurroundingDescription::operator=(const ZRSurroundingDescription &other) = default;
+ZRSurroundingDescription &ZRSurroundingDescription::operator=(ZRSurroundingDescription &&other) = default;
+
+bool ZRSurroundingDescription::isValid() const
+{
+    return m_surroundingType.value() != 0;
+}
+
+bool ZRSurroundingDescription::hasSpineFold() const
+{
+    return m_hasSpineFold && m_spineFoldWidth > 0;
+}
+
+int ZRSurroundingDescription::spineFoldWithSafetyMargins() const
+{
+    return int(m_spineFoldWidth * 1.2);
+}
+
+size_t ZRSurroundingDescription::hashValue() const
+{
+    return size_t(uint(m_surroundingType.value())) ^ size_t(uint(m_pageTypes.value()))
+        ^ size_t(uint(m_alignments.value())) ^ qHash(m_pageNr, 0);
+}
+
+bool ZRSurroundingDescription::isSuitable(const ZRSurroundingKey &key) const
+{
+    const ZRSurroundingKey ownKey(ZRPageContext(m_pageTypes, m_alignments), m_pageNr, m_variant);
+    return ownKey.isOkayFor(key);
+}
+
+QList<QRect> ZRSurroundingDescription::parseMask(const QString &text)
+{
+    QList<QRect> result;
+    const QStringList parts = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    for (const QString &part : parts) {
+        const QStringList fields = part.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (fields.size() != 4)
+            break;
+        result.append(QRect(
+            QPoint(fields.at(0).toInt(), fields.at(1).toInt()), QPoint(fields.at(2).toInt(), fields.at(3).toInt())));
+    }
+    return result;
+}
+
+bool ZRSurroundingDescription::operator==(const ZRSurroundingDescription &other) const
+{
+    return m_productType == other.m_productType && m_surroundingType == other.m_surroundingType
+        && m_pageTypes == other.m_pageTypes && m_alignments == other.m_alignments && m_pageNr == other.m_pageNr
+        && m_paintOnTop == other.m_paintOnTop && m_canBeHiddenByUser == other.m_canBeHiddenByUser
+        && m_hideGrafikInPreview == other.m_hideGrafikInPreview && m_editableArea == other.m_editableArea
+        && m_hasBindingShade == other.m_hasBindingShade && m_hasSpineFold == other.m_hasSpineFold
+        && m_spineFoldWidth == other.m_spineFoldWidth && m_calendarHoleConfig == other.m_calendarHoleConfig
+        && m_spiralConfig == other.m_spiralConfig && m_variant == other.m_variant && m_tileSize == other.m_tileSize
+        && m_spotColor == other.m_spotColor && m_spotColorMask == other.m_spotColorMask
+        && m_imageResource == other.m_imageResource && m_imageResourceSpotColor == other.m_imageResourceSpotColor;
+}

@@ -1,0 +1,46 @@
+#include "ZRSurroundingDescriptionList.h"
+
+#include "ZRSurroundingKey.h"
+
+#include <QDomElement>
+
+#include <algorithm>
+
+ZRSurroundingDescriptionList::ZRSurroundingDescriptionList() = default;
+
+ZRSurroundingDescriptionList::ZRSurroundingDescriptionList(const ZRProductType &productType, const QDomElement &element)
+{
+    const QString surroundingsTag = QStringLiteral("surroundings");
+    const QString surroundingTag = QStringLiteral("surrounding");
+    for (QDomElement group = element.firstChildElement(surroundingsTag); !group.isNull();
+         group = group.nextSiblingElement(surroundingsTag)) {
+        for (QDomElement surrounding = group.firstChildElement(surroundingTag); !surrounding.isNull();
+             surrounding = surrounding.nextSiblingElement(surroundingTag))
+            append(ZRSurroundingDescription(productType, surrounding));
+    }
+}
+
+ZRSurroundingDescription ZRSurroundingDescriptionList::findDescription(const ZRSurroundingKey &key) const
+{
+    if (const ZRSurroundingDescription *found = firstSuitable(key))
+        return *found;
+    if (!key.variant().isValid())
+        return ZRSurroundingDescription();
+    const ZRSurroundingKey withoutVariant(key.pageContext(), key.pageIndex(), ZRArticleVariants());
+    if (const ZRSurroundingDescription *found = firstSuitable(withoutVariant))
+        return *found;
+    return ZRSurroundingDescription();
+}
+
+bool ZRSurroundingDescriptionList::hasSurroundingWithBindingShade() const
+{
+    return std::any_of(
+        cbegin(), cend(), [](const ZRSurroundingDescription &description) { return description.hasBindingShade(); });
+}
+
+const ZRSurroundingDescription *ZRSurroundingDescriptionList::firstSuitable(const ZRSurroundingKey &key) const
+{
+    const auto found = std::find_if(
+        cbegin(), cend(), [&key](const ZRSurroundingDescription &description) { return description.isSuitable(key); });
+    return found == cend() ? nullptr : &*found;
+}

@@ -1,0 +1,231 @@
+#include "ZRDefaultTemplateMap.h"
+
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+QDomElement parse(const QString &xml)
+{
+    QDomDocument document;
+    if (!document.setContent(xml))
+        return QDomElement();
+    return document.documentElement();
+}
+
+ZRDefaultTemplateKey key(ZRPageTypeEnum pageType, ZRPageAlignmentEnum alignment, ZRDefaultTemplateType type,
+    int pageNumber = -1, int scenePageCount = -1)
+{
+    return ZRDefaultTemplateKey(ZRPageContext(pageType, alignment), type, pageNumber, scenePageCount);
+}
+} // namespace
+
+class tst_DefaultTemplates : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+
+    void readNames_data();
+    void readNames();
+    void expansion_data();
+    void expansion();
+    void laterDefaultWins();
+    void findTemplate_data();
+    void findTemplate();
+    void removeUmlauts_data();
+    void removeUmlauts();
+    void pageNumberAndCountAreNotHashed();
+};
+
+void tst_DefaultTemplates::readNames_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QString>("background");
+    QTest::addColumn<QString>("design");
+
+    QTest::newRow("short form") << R"(templates="B1,L1")"
+                                << "L1"
+                                << "B1"
+                                << "";
+    QTest::newRow("short form, background only") << R"(templates="B1")"
+                                                 << ""
+                                                 << "B1"
+                                                 << "";
+    QTest::newRow("nothing given") << ""
+                                   << ""
+                                   << "201"
+                                   << "";
+    QTest::newRow("three entries") << R"(templates="B1,L1,X")"
+                                   << ""
+                                   << "B1"
+                                   << "";
+    QTest::newRow("empty entry dropped") << R"(templates="B1,,L1")"
+                                         << "L1"
+                                         << "B1"
+                                         << "";
+    QTest::newRow("short form trimmed") << R"(templates=" B1 , L1 ")"
+                                        << "L1"
+                                        << "B1"
+                                        << "";
+    QTest::newRow("attributes win") << R"(templates="B1,L1" layout="L2" background="B2" design="D2")"
+                                    << "L2"
+                                    << "B2"
+                                    << "D2";
+    QTest::newRow("empty background attribute") << R"(background="")"
+                                                << ""
+                                                << ""
+                                                << "";
+    QTest::newRow("design not trimmed") << R"(layout=" L " design=" D ")"
+                                        << "L"
+                                        << "201"
+                                        << " D ";
+    QTest::newRow("umlauts") << R"(layout="Größe" background="Über" design="Weiß")"
+                             << "Groesse"
+                             << "ueber"
+                             << "Weiss";
+}
+
+void tst_DefaultTemplates::readNames()
+{
+    QFETCH(QString, attributes);
+    QFETCH(QString, layout);
+    QFETCH(QString, background);
+    QFETCH(QString, design);
+
+    const ZRDefaultTemplateMap map(parse(
+        QStringLiteral(R"(<defaults><default pageType="content" alignment="left" %1/></defaults>)").arg(attributes)));
+    QCOMPARE(map.size(), 3);
+    QCOMPARE(map.value(key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateLayout)), layout);
+    QCOMPARE(map.value(key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateBackground)), background);
+    QCOMPARE(map.value(key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateDesign)), design);
+}
+
+void tst_DefaultTemplates::expansion_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<int>("entries");
+    QTest::addColumn<ZRDefaultTemplateKey>("probe");
+
+    QTest::newRow("one type, one alignment")
+        << R"(pageType="content" alignment="left")" << 3
+        << key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateBackground);
+    QTest::newRow("every alignment by default")
+        << R"(pageType="content")" << 18 << key(ZRPageTypeContent, ZRPageAlignmentMiddle, ZRDefaultTemplateDesign);
+    QTest::newRow("two types, two alignments")
+        << R"(pageType="cover_front, content" alignment="left,right")" << 12
+        << key(ZRPageTypeCoverFront, ZRPageAlignmentRight, ZRDefaultTemplateLayout);
+    QTest::newRow("each listed page type") << R"(pageType="photo,content" alignment="top")" << 6
+                                              << key(ZRPageTypePhoto, ZRPageAlignmentTop, ZRDefaultTemplateLayout);
+    QTest::newRow("keys carry page number and count")
+        << R"(pageType="content" alignment="left" pageNr="2" scenePageCount="24")" << 3
+        << key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateLayout, 2, 24);
+}
+
+void tst_DefaultTemplates::expansion()
+{
+    QFETCH(QString, attributes);
+    QFETCH(int, entries);
+    QFETCH(ZRDefaultTemplateKey, probe);
+
+    const ZRDefaultTemplateMap map(parse(QStringLiteral("<defaults><default %1/></defaults>").arg(attributes)));
+    QCOMPARE(map.size(), entries);
+    QVERIFY(map.contains(probe));
+}
+
+void tst_DefaultTemplates::laterDefaultWins()
+{
+    ZRDefaultTemplateMap map(parse(QStringLiteral(R"(<defaults>
+        <default pageType="content" alignment="left,right" layout="first" background="B"/>
+        <ignored pageType="content" alignment="left" layout="ignored"/>
+        <default pageType="content" alignment="left" layout="second"/>
+        </defaults>)")));
+    QCOMPARE(map.size(), 6);
+    QCOMPARE(map.findTemplate(key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateLayout)), "second");
+    QCOMPARE(map.findTemplate(key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateBackground)), "201");
+    QCOMPARE(map.findTemplate(key(ZRPageTypeContent, ZRPageAlignmentRight, ZRDefaultTemplateLayout)), "first");
+
+    map.applyDefaultsNode(parse(
+        QStringLiteral(R"(<defaults><default pageType="content" alignment="right" layout="third"/></defaults>)")));
+    QCOMPARE(map.findTemplate(key(ZRPageTypeContent, ZRPageAlignmentRight, ZRDefaultTemplateLayout)), "third");
+    QCOMPARE(map.findTemplate(key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateLayout)), "second");
+}
+
+void tst_DefaultTemplates::findTemplate_data()
+{
+    QTest::addColumn<ZRDefaultTemplateKey>("query");
+    QTest::addColumn<QString>("expected");
+
+    const auto content = [](ZRDefaultTemplateType type, int pageNumber, int count) {
+        return key(ZRPageTypeContent, ZRPageAlignmentLeft, type, pageNumber, count);
+    };
+    QTest::newRow("exact") << content(ZRDefaultTemplateLayout, 3, 10) << "L-3-10";
+    QTest::newRow("empty name goes on to any page") << content(ZRDefaultTemplateBackground, 3, 10) << "B-any-10";
+    QTest::newRow("empty names go on to any count") << content(ZRDefaultTemplateDesign, 3, 10) << "D-any-any";
+    QTest::newRow("other page, same count") << content(ZRDefaultTemplateLayout, 4, 10) << "L-any-10";
+    QTest::newRow("page without count") << content(ZRDefaultTemplateLayout, 3, -1) << "L-3-any";
+    QTest::newRow("other page without count") << content(ZRDefaultTemplateLayout, 4, -1) << "L-any-any";
+    QTest::newRow("other count") << content(ZRDefaultTemplateLayout, 4, 11) << "L-any-any";
+    QTest::newRow("page with count skips page without count") << content(ZRDefaultTemplateLayout, 3, 11) << "L-any-any";
+    QTest::newRow("other page type") << key(ZRPageTypeCoverFront, ZRPageAlignmentLeft, ZRDefaultTemplateLayout, 3, 10)
+                                     << "";
+    QTest::newRow("other alignment") << key(ZRPageTypeContent, ZRPageAlignmentRight, ZRDefaultTemplateLayout) << "";
+    QTest::newRow("no fallback over alignments") << key(
+        ZRPageTypeContent, ZRPageAlignmentEnum(ZRPageAlignmentLeft | ZRPageAlignmentRight), ZRDefaultTemplateLayout)
+                                                 << "";
+    QTest::newRow("no fallback over page types")
+        << key(ZRPageTypePhotoPage, ZRPageAlignmentLeft, ZRDefaultTemplateLayout) << "";
+}
+
+void tst_DefaultTemplates::findTemplate()
+{
+    QFETCH(ZRDefaultTemplateKey, query);
+    QFETCH(QString, expected);
+
+    const ZRDefaultTemplateMap map(parse(QStringLiteral(R"(<defaults>
+        <default pageType="content" alignment="left" pageNr="3" scenePageCount="10" layout="L-3-10" background="" />
+        <default pageType="content" alignment="left" scenePageCount="10" layout="L-any-10" background="B-any-10"/>
+        <default pageType="content" alignment="left" pageNr="3" layout="L-3-any" background="B-3-any"/>
+        <default pageType="content" alignment="left" layout="L-any-any" background="B-any-any" design="D-any-any"/>
+        </defaults>)")));
+    QCOMPARE(map.findTemplate(query), expected);
+}
+
+void tst_DefaultTemplates::removeUmlauts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("sharp s") << "Größe"
+                             << "Groesse";
+    QTest::newRow("capital folds to lower case") << "Über"
+                                                 << "ueber";
+    QTest::newRow("all of them") << "ÄÖÜäöüß"
+                                 << "aeoeueaeoeuess";
+    QTest::newRow("other letters untouched") << "Café Ñ Ø"
+                                             << "Café Ñ Ø";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void tst_DefaultTemplates::removeUmlauts()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, expected);
+    QCOMPARE(ZRDefaultTemplateMap().removeUmlauts(text), expected);
+}
+
+void tst_DefaultTemplates::pageNumberAndCountAreNotHashed()
+{
+    const ZRDefaultTemplateKey any = key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateLayout);
+    const ZRDefaultTemplateKey specific = key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateLayout, 3, 10);
+    QCOMPARE(qHash(specific, 17), qHash(any, 17));
+    QVERIFY(specific != any);
+    QVERIFY(qHash(any) != qHash(key(ZRPageTypeContent, ZRPageAlignmentRight, ZRDefaultTemplateLayout)));
+    QVERIFY(qHash(any) != qHash(key(ZRPageTypeCoverFront, ZRPageAlignmentLeft, ZRDefaultTemplateLayout)));
+    QVERIFY(qHash(any) != qHash(key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateBackground)));
+}
+
+QTEST_GUILESS_MAIN(tst_DefaultTemplates)
+#include "tst_defaulttemplates.moc"

@@ -1,0 +1,372 @@
+#include "ZRSurroundingDescriptionList.h"
+#include "ZRSurroundingKey.h"
+
+#include <QDebug>
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <functional>
+
+namespace {
+QDomElement parse(const QString &xml)
+{
+    QDomDocument document;
+    if (!document.setContent(xml))
+        return QDomElement();
+    return document.documentElement();
+}
+
+const ZRProductType product(QStringLiteral("wall_calendar_a3"));
+
+ZRSurroundingDescription surrounding(const QString &attributes, const QString &children = QString())
+{
+    return ZRSurroundingDescription(
+        product, parse(QStringLiteral("<surrounding %1>%2</surrounding>").arg(attributes, children)));
+}
+
+ZRSurroundingKey page(ZRPageTypeEnum type, ZRPageAlignmentEnum alignment, int index, const QString &variant = QString())
+{
+    return ZRSurroundingKey(ZRPageContext(type, alignment), index, ZRArticleVariants(variant));
+}
+
+using Flag = std::function<bool(const ZRSurroundingDescription &)>;
+} // namespace
+
+Q_DECLARE_METATYPE(Flag)
+
+class tst_Surroundings : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+
+    void attributeLessElement();
+    void readsEveryAttribute();
+    void flagsAreCaseSensitive_data();
+    void flagsAreCaseSensitive();
+    void frameAppliesToEveryPage_data();
+    void frameAppliesToEveryPage();
+    void parseMask_data();
+    void parseMask();
+    void spineFold_data();
+    void spineFold();
+    void equality_data();
+    void equality();
+    void isOkayFor_data();
+    void isOkayFor();
+    void findDescription_data();
+    void findDescription();
+    void readsEverySurroundingsElement();
+    void debugStream();
+};
+
+void tst_Surroundings::attributeLessElement()
+{
+    const ZRSurroundingDescription d = surrounding(QString());
+    QVERIFY(d.isValid());
+    QCOMPARE(d.productType(), product);
+    QCOMPARE(d.surroundingType(), ZRSurroundingType(ZRSurroundingTypeBook));
+    QCOMPARE(d.pageTypes(), ZRPageType(ZRPageTypeAll));
+    QCOMPARE(int(d.alignments().value()), 1 | 2 | 4 | 16 | 32 | 64);
+    QCOMPARE(d.pageNr(), -1);
+    QVERIFY(d.paintOnTop());
+    QVERIFY(!d.canBeHiddenByUser());
+    QVERIFY(!d.hideGrafikInPreview());
+    QVERIFY(!d.hasBindingShade());
+    QVERIFY(!d.hasSpineFold());
+    QVERIFY(d.imageResource().isEmpty());
+    QCOMPARE(d.spotColor(), ZRSpotColor());
+    QVERIFY(d.spotColorMask().isEmpty());
+    QVERIFY(d.editableArea().isNull());
+    QCOMPARE(d.calendarHoleConfig(), ZRCalendarHoleConfig());
+    QCOMPARE(d.spiralConfig(), ZRSpiralConfig());
+    QVERIFY(!d.variant().isValid());
+    QCOMPARE(d.tileSize(), QSize(-1, -1));
+
+    QVERIFY(!ZRSurroundingDescription().isValid());
+    QVERIFY(!surrounding(R"(type="no such type")").isValid());
+}
+
+void tst_Surroundings::readsEveryAttribute()
+{
+    const QString hole = QStringLiteral(R"(<hole diameter="6" distanceY="80"/>)");
+    const QString spirals = QStringLiteral(R"(<spirals count="21" hookWidth="40" hookHeight="12"/>)");
+    const ZRSurroundingDescription d
+        = surrounding(R"(type="calendar" pageType="grid,content" alignment="top" pageNr="4" paintOnTop="false"
+                         canBeHiddenByUser="true" image="grid.png" imageSpotColor="grid-gold.png" spotColor="gold"
+                         spotColorMask="0 0 9 9" x="10" y="20" width="300" height="400" variant="color=white"
+                         tileWidth="50" tileHeight="60")",
+            hole + spirals);
+    QCOMPARE(d.surroundingType(), ZRSurroundingType(ZRSurroundingTypeCalendar));
+    QCOMPARE(d.pageTypes(), ZRPageType(ZRPageTypeGridPage));
+    QCOMPARE(d.alignments(), ZRPageAlignment(ZRPageAlignmentTop));
+    QCOMPARE(d.pageNr(), 4);
+    QVERIFY(!d.paintOnTop());
+    QVERIFY(d.canBeHiddenByUser());
+    QCOMPARE(d.imageResource(), "grid.png");
+    QCOMPARE(d.imageResourceSpotColor(), "grid-gold.png");
+    QCOMPARE(d.spotColor(), ZRSpotColor(ZRSpotColorGold));
+    QCOMPARE(d.spotColorMask(), QList<QRect>({ QRect(0, 0, 10, 10) }));
+    QCOMPARE(d.editableArea(), QRect(10, 20, 300, 400));
+    QCOMPARE(d.variant(), ZRArticleVariants(QStringLiteral("color=white")));
+    QCOMPARE(d.tileSize(), QSize(50, 60));
+    QCOMPARE(d.calendarHoleConfig(), ZRCalendarHoleConfig(parse(hole)));
+    QVERIFY(d.calendarHoleConfig() != ZRCalendarHoleConfig());
+    QCOMPARE(d.spiralConfig().spiralCount(), 21);
+    QCOMPARE(d.spiralConfig(), ZRSpiralConfig(parse(spirals)));
+}
+
+void tst_Surroundings::flagsAreCaseSensitive_data()
+{
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<Flag>("flag");
+    QTest::addColumn<bool>("expected");
+
+    const Flag shade = &ZRSurroundingDescription::hasBindingShade;
+    const Flag hideGrafik = &ZRSurroundingDescription::hideGrafikInPreview;
+    const Flag spineFold = &ZRSurroundingDescription::hasSpineFold;
+    QTest::newRow("hasbindingshade") << R"(hasbindingshade="true")" << shade << true;
+    QTest::newRow("hasBindingShade") << R"(hasBindingShade="true")" << shade << false;
+    QTest::newRow("hideGrafikInPreview") << R"(hideGrafikInPreview="true")" << hideGrafik << true;
+    QTest::newRow("hideGraphicInPreview") << R"(hideGraphicInPreview="true")" << hideGrafik << false;
+    QTest::newRow("hidegrafikinpreview") << R"(hidegrafikinpreview="true")" << hideGrafik << false;
+    QTest::newRow("hasspinefold") << R"(hasspinefold="true" spinefoldwidth="5")" << spineFold << true;
+    QTest::newRow("hasSpineFold") << R"(hasSpineFold="true" spinefoldwidth="5")" << spineFold << false;
+    QTest::newRow("spineFoldWidth") << R"(hasspinefold="true" spineFoldWidth="5")" << spineFold << false;
+}
+
+void tst_Surroundings::flagsAreCaseSensitive()
+{
+    QFETCH(QString, attribute);
+    QFETCH(Flag, flag);
+    QFETCH(bool, expected);
+    QCOMPARE(flag(surrounding(attribute)), expected);
+}
+
+void tst_Surroundings::frameAppliesToEveryPage_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("pageTypes");
+    QTest::addColumn<int>("alignments");
+    QTest::addColumn<int>("pageNr");
+
+    QTest::newRow("FRAME") << "FRAME" << 0xF03F9 << 0x7F << -1;
+    QTest::newRow("frame") << "frame" << 0xF03F9 << 0x7F << -1;
+    QTest::newRow("BORDER") << "BORDER" << int(ZRPageTypeContent) << int(ZRPageAlignmentLeft) << 3;
+    QTest::newRow("FRAME_COMBINED") << "FRAME_COMBINED" << int(ZRPageTypeContent) << int(ZRPageAlignmentLeft) << 3;
+}
+
+void tst_Surroundings::frameAppliesToEveryPage()
+{
+    QFETCH(QString, type);
+    QFETCH(int, pageTypes);
+    QFETCH(int, alignments);
+    QFETCH(int, pageNr);
+
+    const ZRSurroundingDescription d
+        = surrounding(QStringLiteral(R"(type="%1" pageType="content" alignment="left" pageNr="3")").arg(type));
+    QCOMPARE(int(d.pageTypes().value()), pageTypes);
+    QCOMPARE(int(d.alignments().value()), alignments);
+    QCOMPARE(d.pageNr(), pageNr);
+}
+
+void tst_Surroundings::parseMask_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QList<QRect>>("expected");
+
+    const QRect first(QPoint(1, 2), QPoint(30, 40));
+    const QRect second(QPoint(5, 6), QPoint(7, 8));
+    QTest::newRow("empty") << "" << QList<QRect>();
+    QTest::newRow("corner coordinates") << "1 2 30 40" << QList<QRect>({ first });
+    QTest::newRow("stops at three fields") << "1 2 30 40;5 6 7;5 6 7 8" << QList<QRect>({ first });
+    QTest::newRow("stops at five fields") << "1 2 30 40;5 6 7 8 9;5 6 7 8" << QList<QRect>({ first });
+    QTest::newRow("bad first part") << "1 2 3;1 2 30 40" << QList<QRect>();
+    QTest::newRow("empty part skipped") << "1 2 30 40;;5 6 7 8" << QList<QRect>({ first, second });
+    QTest::newRow("extra blanks and trailing separator") << " 1  2 30 40 ; 5 6 7 8;" << QList<QRect>({ first, second });
+    QTest::newRow("text order") << "5 6 7 8;1 2 30 40" << QList<QRect>({ second, first });
+    QTest::newRow("no number counts as 0") << "x 2 30 40" << QList<QRect>({ QRect(QPoint(0, 2), QPoint(30, 40)) });
+    QTest::newRow("too large counts as 0")
+        << "1 2 30 99999999999" << QList<QRect>({ QRect(QPoint(1, 2), QPoint(30, 0)) });
+    QTest::newRow("blank only part stops") << "1 2 30 40; ;5 6 7 8" << QList<QRect>({ first });
+}
+
+void tst_Surroundings::parseMask()
+{
+    QFETCH(QString, text);
+    QFETCH(QList<QRect>, expected);
+    QCOMPARE(ZRSurroundingDescription::parseMask(text), expected);
+    QCOMPARE(surrounding(QStringLiteral(R"(spotColorMask="%1")").arg(text)).spotColorMask(), expected);
+}
+
+void tst_Surroundings::spineFold_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<bool>("hasSpineFold");
+    QTest::addColumn<int>("withMargins");
+
+    QTest::newRow("flag without width") << R"(hasspinefold="true")" << false << 0;
+    QTest::newRow("width 10") << R"(hasspinefold="true" spinefoldwidth="10")" << true << 12;
+    QTest::newRow("width 7 truncated") << R"(hasspinefold="true" spinefoldwidth="7")" << true << 8;
+    QTest::newRow("width without flag") << R"(spinefoldwidth="10")" << false << 12;
+    QTest::newRow("malformed width") << R"(hasspinefold="true" spinefoldwidth="wide")" << false << 0;
+}
+
+void tst_Surroundings::spineFold()
+{
+    QFETCH(QString, attributes);
+    QFETCH(bool, hasSpineFold);
+    QFETCH(int, withMargins);
+
+    const ZRSurroundingDescription d = surrounding(attributes);
+    QCOMPARE(d.hasSpineFold(), hasSpineFold);
+    QCOMPARE(d.spineFoldWithSafetyMargins(), withMargins);
+}
+
+void tst_Surroundings::equality_data()
+{
+    QTest::addColumn<QString>("extra");
+    QTest::addColumn<bool>("equal");
+
+    QTest::newRow("ignored compositionMode") << R"(compositionMode="multiply")" << true;
+    QTest::newRow("ignored wrong case") << R"(PageNr="4")" << true;
+    QTest::newRow("pageNr") << R"(pageNr="4")" << false;
+    QTest::newRow("paintOnTop") << R"(paintOnTop="false")" << false;
+    QTest::newRow("canBeHiddenByUser") << R"(canBeHiddenByUser="true")" << false;
+    QTest::newRow("hideGrafikInPreview") << R"(hideGrafikInPreview="true")" << false;
+    QTest::newRow("image") << R"(image="a.png")" << false;
+    QTest::newRow("imageSpotColor") << R"(imageSpotColor="a.png")" << false;
+    QTest::newRow("spotColor") << R"(spotColor="silver")" << false;
+    QTest::newRow("spotColorMask") << R"(spotColorMask="0 0 1 1")" << false;
+    QTest::newRow("editable area") << R"(x="1")" << false;
+    QTest::newRow("hasbindingshade") << R"(hasbindingshade="true")" << false;
+    QTest::newRow("hasspinefold") << R"(hasspinefold="true")" << false;
+    QTest::newRow("spinefoldwidth") << R"(spinefoldwidth="3")" << false;
+    QTest::newRow("variant") << R"(variant="color=red")" << false;
+    QTest::newRow("tileWidth") << R"(tileWidth="3")" << false;
+    QTest::newRow("tileHeight") << R"(tileHeight="3")" << false;
+}
+
+void tst_Surroundings::equality()
+{
+    QFETCH(QString, extra);
+    QFETCH(bool, equal);
+
+    const QString base = QStringLiteral(R"(type="border" pageType="content")");
+    const ZRSurroundingDescription plain = surrounding(base);
+    const ZRSurroundingDescription changed = surrounding(base + QLatin1Char(' ') + extra);
+    QCOMPARE(changed == plain, equal);
+    QCOMPARE(surrounding(base), plain);
+    QVERIFY(surrounding(base, QStringLiteral(R"(<hole diameter="6" distanceY="80"/>)")) != plain);
+    QVERIFY(surrounding(base, QStringLiteral(R"(<spirals count="3"/>)")) != plain);
+    QVERIFY(ZRSurroundingDescription(ZRProductType(QStringLiteral("other")), parse("<surrounding " + base + "/>"))
+        != plain);
+}
+
+void tst_Surroundings::isOkayFor_data()
+{
+    QTest::addColumn<ZRSurroundingKey>("own");
+    QTest::addColumn<ZRSurroundingKey>("queried");
+    QTest::addColumn<bool>("expected");
+
+    const auto contentAny = [](const char *variant) {
+        return ZRSurroundingKey(ZRPageContext(ZRPageTypeEnum(ZRPageTypeContent | ZRPageTypePhoto),
+                                    ZRPageAlignmentEnum(ZRPageAlignmentLeft | ZRPageAlignmentRight)),
+            -1, ZRArticleVariants(QString::fromUtf8(variant)));
+    };
+    QTest::newRow("other context, both any page") << page(ZRPageTypeCoverFront, ZRPageAlignmentLeft, -1)
+                                                  << page(ZRPageTypeContent, ZRPageAlignmentRight, -1) << true;
+    QTest::newRow("other context, same page") << page(ZRPageTypeCoverFront, ZRPageAlignmentLeft, 5)
+                                              << page(ZRPageTypeContent, ZRPageAlignmentRight, 5) << true;
+    QTest::newRow("other context, any page") << page(ZRPageTypeCoverFront, ZRPageAlignmentLeft, -1)
+                                             << page(ZRPageTypeContent, ZRPageAlignmentRight, 5) << false;
+    QTest::newRow("bound page ignores variant") << page(ZRPageTypeContent, ZRPageAlignmentLeft, 5, "color=red")
+                                                << page(ZRPageTypeContent, ZRPageAlignmentLeft, 5) << true;
+    QTest::newRow("bound page, other page")
+        << page(ZRPageTypeContent, ZRPageAlignmentLeft, 5) << page(ZRPageTypeContent, ZRPageAlignmentLeft, 6) << false;
+    QTest::newRow("any page, same variant")
+        << contentAny("color=red") << page(ZRPageTypePhoto, ZRPageAlignmentRight, 2, "color=red") << true;
+    QTest::newRow("any page, other variant")
+        << contentAny("color=red") << page(ZRPageTypePhoto, ZRPageAlignmentRight, 2) << false;
+    QTest::newRow("any page, other variant, any page asked for")
+        << contentAny("") << page(ZRPageTypeContent, ZRPageAlignmentLeft, -1, "color=red") << true;
+}
+
+void tst_Surroundings::isOkayFor()
+{
+    QFETCH(ZRSurroundingKey, own);
+    QFETCH(ZRSurroundingKey, queried);
+    QFETCH(bool, expected);
+    QCOMPARE(own.isOkayFor(queried), expected);
+}
+
+void tst_Surroundings::findDescription_data()
+{
+    QTest::addColumn<ZRSurroundingKey>("key");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("any page, same variant") << page(ZRPageTypeContent, ZRPageAlignmentLeft, 2) << "plain";
+    QTest::newRow("bound page number") << page(ZRPageTypeContent, ZRPageAlignmentLeft, 5) << "page5";
+    QTest::newRow("bound page number, other context") << page(ZRPageTypeCoverBack, ZRPageAlignmentRight, 5) << "page5";
+    QTest::newRow("bound page number before variant")
+        << page(ZRPageTypeContent, ZRPageAlignmentLeft, 5, "color=red") << "page5";
+    QTest::newRow("variant") << page(ZRPageTypeContent, ZRPageAlignmentLeft, 2, "color=red") << "red";
+    QTest::newRow("unknown variant falls back")
+        << page(ZRPageTypeContent, ZRPageAlignmentLeft, 2, "color=blue") << "plain";
+    QTest::newRow("cover") << page(ZRPageTypeCoverFront, ZRPageAlignmentLeft, 0) << "front";
+    QTest::newRow("cover, unknown variant falls back")
+        << page(ZRPageTypeCoverFront, ZRPageAlignmentLeft, 0, "color=blue") << "front";
+    QTest::newRow("nothing fits") << page(ZRPageTypeCoverBack, ZRPageAlignmentRight, 0) << "";
+    QTest::newRow("nothing fits with variant") << page(ZRPageTypeCoverBack, ZRPageAlignmentRight, 0, "color=red") << "";
+    // a description for any page fits a query for any page whatever the contexts
+    QTest::newRow("any page asked for") << page(ZRPageTypeCoverBack, ZRPageAlignmentRight, -1) << "front";
+}
+
+void tst_Surroundings::findDescription()
+{
+    QFETCH(ZRSurroundingKey, key);
+    QFETCH(QString, expected);
+
+    const ZRSurroundingDescriptionList list(product, parse(QStringLiteral(R"(<product><surroundings>
+        <surrounding pageType="cover_front" alignment="left" image="front"/>
+        <surrounding pageType="content" pageNr="5" image="page5"/>
+        <surrounding pageType="content" variant="color=red" image="red"/>
+        <surrounding pageType="content" image="plain"/>
+        </surroundings></product>)")));
+    QCOMPARE(list.size(), 4);
+    const ZRSurroundingDescription found = list.findDescription(key);
+    QCOMPARE(found.imageResource(), expected);
+    QCOMPARE(found.isValid(), !expected.isEmpty());
+}
+
+void tst_Surroundings::readsEverySurroundingsElement()
+{
+    const ZRSurroundingDescriptionList list(product, parse(QStringLiteral(R"(<product>
+        <surroundings><surrounding image="a"/><frame image="not read"/><surrounding image="b"/></surroundings>
+        <surrounding image="not read either"/>
+        <surroundings><surrounding image="c" hasbindingshade="true"/></surroundings>
+        </product>)")));
+    QStringList images;
+    for (const ZRSurroundingDescription &d : list)
+        images.append(d.imageResource());
+    QCOMPARE(images, QStringList({ "a", "b", "c" }));
+    QVERIFY(list.hasSurroundingWithBindingShade());
+    QVERIFY(!ZRSurroundingDescriptionList(
+        product, parse(QStringLiteral("<product><surroundings><surrounding/></surroundings></product>")))
+                 .hasSurroundingWithBindingShade());
+    QVERIFY(ZRSurroundingDescriptionList().findDescription(ZRSurroundingKey()) == ZRSurroundingDescription());
+}
+
+void tst_Surroundings::debugStream()
+{
+    QString text;
+    QDebug(&text) << page(ZRPageTypeContent, ZRPageAlignmentLeft, 3, "color=red");
+    QVERIFY2(text.startsWith(QLatin1String("ZRSurroundingKey(")), qPrintable(text));
+    QVERIFY2(text.contains(QLatin1String("content")) && text.contains(QLatin1String("3"))
+            && text.contains(QLatin1String("color=red")),
+        qPrintable(text));
+}
+
+QTEST_GUILESS_MAIN(tst_Surroundings)
+#include "tst_surroundings.moc"
