@@ -1,7 +1,9 @@
 #include "ZRPreview3DDescription.h"
+#include "ZRXMLLoader.h"
 
 #include <QCoreApplication>
 #include <QDomDocument>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTranslator>
@@ -59,6 +61,7 @@ private Q_SLOTS:
     void textureTargets_data();
     void textureTargets();
     void cupRingAndWindowSize();
+    void exampleMug();
 };
 
 void tst_Preview3DDescription::init()
@@ -215,6 +218,22 @@ void tst_Preview3DDescription::cupRingAndWindowSize()
     const ZRPreview3DDescription half = describe(QStringLiteral("<preview3D><windowSize width=\"640\"/></preview3D>"));
     QCOMPARE(half.windowSize(), QSize(640, -1));
     QVERIFY(half.cupRingRect().isNull());
+}
+
+void tst_Preview3DDescription::exampleMug()
+{
+    const QDomElement root = ZRXMLLoader::loadDocumentElement(
+        QFileInfo(QStringLiteral(ZR_EXAMPLES_DIR "/products/mug_classic_330ml.xml")));
+    QVERIFY(!root.isNull());
+    const ZRPreview3DDescription d(root.firstChildElement(QStringLiteral("product")));
+    QCOMPARE(queryItems(d.url(true)),
+        QStringList({ "mesh=mugs/classic_330ml.glb", "flipY=true", "cx=-3.5", "cy=9", "cz=32.25", "ax=0", "ay=4.75",
+            "az=0", "title=Produktvorschau" }));
+    QCOMPARE(d.textureTargets().size(), 2);
+    QCOMPARE(
+        d.textureTargets().at(1), ZRTextureTarget(QStringLiteral("mug_handle_side"), QRectF(1900, 0, 200, 950), 0));
+    QCOMPARE(d.cupRingRect(), QRectF(0, 0, 2100, 60));
+    QCOMPARE(d.windowSize(), QSize(480, 360));
 }
 
 QTEST_GUILESS_MAIN(tst_Preview3DDescription)

@@ -1,6 +1,8 @@
 #include "ZRProductClassificationManager.h"
+#include "ZRXMLLoader.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QDomDocument>
 #include <QRegularExpression>
 #include <QTest>
@@ -89,6 +91,7 @@ private Q_SLOTS:
     void lookupsByProductType_data();
     void lookupsByProductType();
     void namesAndGroupsInListOrder();
+    void exampleCatalogue();
 };
 
 void tst_ProductClassification::init()
@@ -407,6 +410,33 @@ void tst_ProductClassification::namesAndGroupsInListOrder()
     };
     QCOMPARE(m.classificationGroups(), expected);
     QCOMPARE(ZRProductClassificationManager().classificationGroups(), QList<ZRProductClassificationGroup>());
+}
+
+void tst_ProductClassification::exampleCatalogue()
+{
+    const QDir products(QStringLiteral(ZR_EXAMPLES_DIR "/products"));
+    QList<ZRProductClassification> classifications;
+    const QFileInfoList files = products.entryInfoList({ QStringLiteral("*.xml") }, QDir::Files, QDir::Name);
+    QVERIFY(!files.isEmpty());
+    for (const QFileInfo &file : files) {
+        const QDomElement root = ZRXMLLoader::loadDocumentElement(file);
+        QVERIFY2(!root.isNull(), qPrintable(file.fileName()));
+        const ZRProductClassification c(root.firstChildElement(QStringLiteral("product")));
+        if (c.group() != ZRProductClassificationGroup())
+            classifications.append(c);
+    }
+    const ZRProductClassificationManager m(classifications);
+    QCOMPARE(m.classificationGroups().size(), 3);
+
+    const ZRProductType alu(QStringLiteral("walldecor_alu_45x30"));
+    QCOMPARE(m.classificationName(alu, ZRDistanceUnit(ZRDistanceUnitInch)), QStringLiteral("18 x 12"));
+    QCOMPARE(m.classificationGroup(alu).visibleDescription(), QStringLiteral("Foto auf Alu-Dibond (Direktdruck)"));
+    QVERIFY(m.classificationGroup(alu).canCustomFormat());
+    QCOMPARE(
+        m.closestProduct(alu, QStringLiteral("Leinwand")), ZRProductType(QStringLiteral("walldecor_canvas_60x40")));
+    QCOMPARE(m.type(ZRProductClassificationGroup(QStringLiteral("Poster")), QStringLiteral("30x20"),
+                 ZRDistanceUnit(ZRDistanceUnitInch)),
+        ZRProductType(QStringLiteral("walldecor_poster_75x50")));
 }
 
 QTEST_GUILESS_MAIN(tst_ProductClassification)
