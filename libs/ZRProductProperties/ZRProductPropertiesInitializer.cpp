@@ -1,6 +1,8 @@
 #include "ZRProductPropertiesInitializer.h"
 
 #include "ZRInitializer.h"
+#include "ZRProductCheckerRegistry.h"
+#include "ZRProductTypeConfigRegistry.h"
 
 namespace {
 // Registers the library with the base initializer as soon as the library is loaded.
@@ -17,7 +19,9 @@ ZRProductPropertiesInitializer::~ZRProductPropertiesInitializer() = default;
 void ZRProductPropertiesInitializer::setup(ZRInitializerOption option)
 {
     Q_UNUSED(option)
-    // The product type registry registers itself as a product checker here once it exists.
+    // Asking for the registry creates it, so the product descriptions are read here.
+    ZRSingleton<ZRProductCheckerRegistry>::instance()->registerChecker(
+        ZRSingleton<ZRProductTypeConfigRegistry>::instance());
 }
 
 void ZRProductPropertiesInitializer::teardown() { }

@@ -6,7 +6,8 @@
 
 /**
  * The library's start-up hook. One static instance registers itself with
- * ZRSingleton<ZRInitializer>::instance() when the library is loaded.
+ * ZRSingleton<ZRInitializer>::instance() when the library is loaded; setup() loads the current
+ * product descriptions and registers their registry as a product checker. Teardown does nothing.
  */
 class ZRPRODUCTPROPERTIES_EXPORT ZRProductPropertiesInitializer : public ZRInitializerAbstract
 {

@@ -1,0 +1,5 @@
+#include "ZRArticleClassProperties.h"
+
+ZRArticleClassProperties::ZRArticleClassProperties() = default;
+
+ZRArticleClassProperties::~ZRArticleClassProperties() = default;

@@ -1,0 +1,56 @@
+#include "ZRProductTypeDescriptionReader.h"
+
+#include "ZRProductTypeDescription.h"
+#include "ZRXMLLoader.h"
+
+#include <QtGlobal>
+
+namespace {
+const QString productElementName = QStringLiteral("product");
+}
+
+ZRProductTypeDescriptionReader::ZRProductTypeDescriptionReader(const QDir &dir)
+    : m_dir(dir)
+{ }
+
+ZRProductTypeDescriptionReader::~ZRProductTypeDescriptionReader() = default;
+
+QStringList ZRProductTypeDescriptionReader::fileFilter() const
+{
+    return { QStringLiteral("*.xml") };
+}
+
+ZRProductTypeDescription *ZRProductTypeDescriptionReader::readFile(const QFileInfo &file) const
+{
+    const QDomElement root = ZRXMLLoader::loadDocumentElement(file);
+    if (root.isNull()) {
+        QMessageLogger("libs/ZRProductProperties/ZRProductTypeDescriptionReader", __LINE__,
+            "ZRProductTypeDescription* ZRProductTypeDescriptionReader::readFile(const QFileInfo&)")
+            .warning("could not open %s", qUtf8Printable(file.absoluteFilePath()));
+        return nullptr;
+    }
+    return new ZRProductTypeDescription(root.firstChildElement(productElementName));
+}
+
+QHash<ZRProductType, ZRProductTypeDescription *> ZRProductTypeDescriptionReader::readDir() const
+{
+    return readDir(nullptr);
+}
+
+QHash<ZRProductType, ZRProductTypeDescription *> ZRProductTypeDescriptionReader::readDir(
+    QList<ZRProductTypeDescription *> *replaced) const
+{
+    QHash<ZRProductType, ZRProductTypeDescription *> result;
+    const QFileInfoList files = m_dir.entryInfoList(fileFilter(), QDir::Files, QDir::Unsorted);
+    result.reserve(files.size());
+    for (const QFileInfo &file : files) {
+        ZRProductTypeDescription *description = readFile(file);
+        if (!description)
+            continue;
+        ZRProductTypeDescription *&slot = result[description->productType()];
+        if (slot && replaced)
+            replaced->append(slot);
+        slot = description;
+    }
+    return result;
+}
