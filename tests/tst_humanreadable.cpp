@@ -3,20 +3,8 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 #include <QTest>
-#include <QTranslator>
 
-namespace {
-// Answers every text as "[context]source", so tests see which context a text was translated in.
-class ContextTaggingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return QStringLiteral("[%1]%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
-    }
-    bool isEmpty() const override { return false; }
-};
-} // namespace
+#include "ContextTaggingTranslator.h"
 
 class tst_HumanReadable : public QObject
 {
@@ -89,53 +77,15 @@ void tst_HumanReadable::templateName()
 
 void tst_HumanReadable::everyKeyTranslatedInOwnContext()
 {
-    const QStringList keys = {
-        "canvas_without_frame",
-        "Havanna Frame Creme",
-        "Havanna Frame Rot",
-        "Havanna Frame Blau",
-        "Art silber",
-        "Art schwarz",
-        "Art hellgold",
-        "Poster Ohne Rahmen",
-        "Home Gruen",
-        "Home Kirsche",
-        "Home Schwarz",
-        "Home Gelb",
-        "Home Blau",
-        "Home Kiefer",
-        "Home Ahorn",
-        "Home Rotbuche",
-        "Style Silber-Gold",
-        "Style Gold",
-        "Style Silber",
-        "Style Bronze",
-        "Style Natur",
-        "Style Gelb",
-        "Style Blau",
-        "Style Rot",
-        "Style Creme",
-        "bigposter_without_frame",
-        "luxor_pine",
-        "confetti_black",
-        "confetti_white",
-        "natura_walnut",
-        "sento_goldgreen",
-        "designer_metalblack",
-        "designer_metalsilver",
-        "designer_metalcopper",
-        "designer_metalgold",
-        "lancaster_driftwooddark",
-        "unique_precioussilver",
-        "plastic_black",
-        "plastic_white",
-        "passepartout_white",
-        "passepartout_black",
-        "passepartout_gray",
-        "passepartout_cream",
-        "premiumposter_glas",
-        "premiumposter_laminated",
-    };
+    const QStringList keys = { "canvas_without_frame", "Havanna Frame Creme", "Havanna Frame Rot", "Havanna Frame Blau",
+        "Art silber", "Art schwarz", "Art hellgold", "Poster Ohne Rahmen", "Home Gruen", "Home Kirsche", "Home Schwarz",
+        "Home Gelb", "Home Blau", "Home Kiefer", "Home Ahorn", "Home Rotbuche", "Style Silber-Gold", "Style Gold",
+        "Style Silber", "Style Bronze", "Style Natur", "Style Gelb", "Style Blau", "Style Rot", "Style Creme",
+        "bigposter_without_frame", "luxor_pine", "confetti_black", "confetti_white", "natura_walnut", "sento_goldgreen",
+        "designer_metalblack", "designer_metalsilver", "designer_metalcopper", "designer_metalgold",
+        "lancaster_driftwooddark", "unique_precioussilver", "plastic_black", "plastic_white", "passepartout_white",
+        "passepartout_black", "passepartout_gray", "passepartout_cream", "premiumposter_glas",
+        "premiumposter_laminated" };
     QCOMPARE(keys.size(), 45);
 
     ContextTaggingTranslator translator;

@@ -6,20 +6,11 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
-#include <QTranslator>
+
+#include "ContextTaggingTranslator.h"
 #include <QUrlQuery>
 
 namespace {
-class ContextTaggingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return QStringLiteral("[%1]%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
-    }
-    bool isEmpty() const override { return false; }
-};
-
 ZRPreview3DDescription describe(const QString &preview)
 {
     QDomDocument document;

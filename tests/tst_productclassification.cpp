@@ -6,20 +6,10 @@
 #include <QDomDocument>
 #include <QRegularExpression>
 #include <QTest>
-#include <QTranslator>
+
+#include "ContextTaggingTranslator.h"
 
 namespace {
-// Answers every text as "[context]source", so tests see which context a text was translated in.
-class ContextTaggingTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return QStringLiteral("[%1]%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
-    }
-    bool isEmpty() const override { return false; }
-};
-
 QDomElement productElement(const QString &xml)
 {
     static QDomDocument document; // keeps the nodes alive for the element handed out
