@@ -45,46 +45,19 @@ void tst_DefaultTemplates::readNames_data()
     QTest::addColumn<QString>("background");
     QTest::addColumn<QString>("design");
 
-    QTest::newRow("short form") << R"(templates="B1,L1")"
-                                << "L1"
-                                << "B1"
-                                << "";
-    QTest::newRow("short form, background only") << R"(templates="B1")"
-                                                 << ""
-                                                 << "B1"
-                                                 << "";
-    QTest::newRow("nothing given") << ""
-                                   << ""
-                                   << "201"
-                                   << "";
-    QTest::newRow("three entries") << R"(templates="B1,L1,X")"
-                                   << ""
-                                   << "B1"
-                                   << "";
-    QTest::newRow("empty entry dropped") << R"(templates="B1,,L1")"
-                                         << "L1"
-                                         << "B1"
-                                         << "";
-    QTest::newRow("short form trimmed") << R"(templates=" B1 , L1 ")"
-                                        << "L1"
-                                        << "B1"
-                                        << "";
-    QTest::newRow("attributes win") << R"(templates="B1,L1" layout="L2" background="B2" design="D2")"
-                                    << "L2"
-                                    << "B2"
-                                    << "D2";
-    QTest::newRow("empty background attribute") << R"(background="")"
-                                                << ""
-                                                << ""
-                                                << "";
-    QTest::newRow("design not trimmed") << R"(layout=" L " design=" D ")"
-                                        << "L"
-                                        << "201"
-                                        << " D ";
-    QTest::newRow("umlauts") << R"(layout="Größe" background="Über" design="Weiß")"
-                             << "Groesse"
-                             << "ueber"
-                             << "Weiss";
+    // clang-format off
+    QTest::newRow("short form") << R"(templates="B1,L1")" << "L1" << "B1" << "";
+    QTest::newRow("short form, background only") << R"(templates="B1")" << "" << "B1" << "";
+    QTest::newRow("nothing given") << "" << "" << "201" << "";
+    QTest::newRow("three entries") << R"(templates="B1,L1,X")" << "" << "B1" << "";
+    QTest::newRow("empty entry dropped") << R"(templates="B1,,L1")" << "L1" << "B1" << "";
+    QTest::newRow("short form trimmed") << R"(templates=" B1 , L1 ")" << "L1" << "B1" << "";
+    QTest::newRow("attributes win") << R"(templates="B1,L1" layout="L2" background="B2")" << "L2" << "B2" << "";
+    QTest::newRow("empty background attribute") << R"(background="")" << "" << "" << "";
+    QTest::newRow("design not trimmed") << R"(layout=" L " design=" D ")" << "L" << "201" << " D ";
+    QTest::newRow("umlauts")
+        << R"(layout="Größe" background="Über" design="Weiß")" << "Groesse" << "ueber" << "Weiss";
+    // clang-format on
 }
 
 void tst_DefaultTemplates::readNames()
@@ -117,7 +90,7 @@ void tst_DefaultTemplates::expansion_data()
         << R"(pageType="cover_front, content" alignment="left,right")" << 12
         << key(ZRPageTypeCoverFront, ZRPageAlignmentRight, ZRDefaultTemplateLayout);
     QTest::newRow("each listed page type") << R"(pageType="photo,content" alignment="top")" << 6
-                                              << key(ZRPageTypePhoto, ZRPageAlignmentTop, ZRDefaultTemplateLayout);
+                                           << key(ZRPageTypePhoto, ZRPageAlignmentTop, ZRDefaultTemplateLayout);
     QTest::newRow("keys carry page number and count")
         << R"(pageType="content" alignment="left" pageNr="2" scenePageCount="24")" << 3
         << key(ZRPageTypeContent, ZRPageAlignmentLeft, ZRDefaultTemplateLayout, 2, 24);
@@ -197,16 +170,13 @@ void tst_DefaultTemplates::removeUmlauts_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("sharp s") << "Größe"
-                             << "Groesse";
-    QTest::newRow("capital folds to lower case") << "Über"
-                                                 << "ueber";
-    QTest::newRow("all of them") << "ÄÖÜäöüß"
-                                 << "aeoeueaeoeuess";
-    QTest::newRow("other letters untouched") << "Café Ñ Ø"
-                                             << "Café Ñ Ø";
-    QTest::newRow("empty") << ""
-                           << "";
+    // clang-format off
+    QTest::newRow("sharp s") << "Größe" << "Groesse";
+    QTest::newRow("capital folds to lower case") << "Über" << "ueber";
+    QTest::newRow("all of them") << "ÄÖÜäöüß" << "aeoeueaeoeuess";
+    QTest::newRow("other letters untouched") << "Café Ñ Ø" << "Café Ñ Ø";
+    QTest::newRow("empty") << "" << "";
+    // clang-format on
 }
 
 void tst_DefaultTemplates::removeUmlauts()
