@@ -38,6 +38,12 @@ void ZRPageType::fillTable(Table *table) const
         { "wrap_cover", ZRPageTypeWrapCover },
         { "panorama", ZRPageTypePanorama },
         { "single_start", ZRPageTypeSingleStart },
+        { "photo_page", ZRPageTypePhotoPage },
+        { "grid_page", ZRPageTypeGridPage },
+        { "door_page", ZRPageTypeDoorPage },
+        { "panorama_page", ZRPageTypePanoramaPage },
+        { "single_start_page", ZRPageTypeSingleStartPage },
+        { "inside_covers", ZRPageTypeInsideCovers },
         { "covers", ZRPageTypeCovers },
         { "all", ZRPageTypeAll },
     });

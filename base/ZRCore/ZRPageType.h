@@ -6,7 +6,9 @@
 
 /**
  * Kinds of page, as flags. Compound page types are unions of flags (a panorama content page is
- * "panorama,content"). Keys, as read from and written to product descriptions:
+ * "panorama,content"); page lists, which separate their entries by commas, name a compound type by its
+ * own key ("panorama_page"). Keys, as read from and written to product descriptions (a value is written
+ * flag by flag, so compound keys are only read):
  *
  * | Key                        | Value    | Meaning |
  * |----------------------------|----------|---------|
@@ -33,6 +35,12 @@
  * | "wrap_cover"               | 0x100000 | placeholder: a one-piece cover (front, spine, flap, back) |
  * | "panorama"                 | 0x200000 | flag: a page spread over two ("panorama,content" = 0x200008) |
  * | "single_start"             | 0x400000 | flag: a first page that stands alone ("single_start,content" = 0x400008) |
+ * | "photo_page"               | 10       | "photo,content" as one key, for page lists |
+ * | "grid_page"                | 12       | "grid,content" as one key |
+ * | "door_page"                | 0x408    | "door,content" as one key |
+ * | "panorama_page"            | 0x200008 | "panorama,content" as one key |
+ * | "single_start_page"        | 0x400008 | "single_start,content" as one key |
+ * | "inside_covers"            | 0x300    | both insides of the cover |
  * | "covers"                   | 0xF03E1  | every cover page type |
  * | "all"                      | 0xF03F9  | every page type that a page can really have |
  */
