@@ -15,6 +15,8 @@
 #include <QJsonDocument>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
 enum ExitCode
 {
@@ -167,7 +169,10 @@ int checkCatalogue(const Invocation &invocation)
         directories.append(legacyDirectory);
     }
 
-    const QList<Problem> &problems = checker.problems();
+    // Grouped by file, each file's problems in the order they were found.
+    QList<Problem> problems = checker.problems();
+    std::stable_sort(
+        problems.begin(), problems.end(), [](const Problem &a, const Problem &b) { return a.file < b.file; });
     if (invocation.json) {
         QJsonArray array;
         for (const Problem &problem : problems)
