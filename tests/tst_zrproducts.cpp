@@ -141,6 +141,10 @@ void tst_ZRProducts::commandLine_data()
     QTest::newRow("sample catalogue is clean")
         << QStringList { "check" } << 0 << QStringLiteral("^12 files checked in 3 directories: no problems\n$")
         << QString();
+    QTest::newRow("library warnings on a broken catalogue")
+        << QStringList { "list", "--products", brokenProducts } << 0
+        << QStringLiteral("\nbroken_no_binding +card +- +2 +no\n")
+        << QStringLiteral("^(zrproducts: warning: (parse error|could not open .*/not_xml\\.xml)\n){2}$");
     QTest::newRow("unknown product") << QStringList { "show", "no_such_product" } << 1 << QString()
                                      << QStringLiteral("^zrproducts: unknown product \"no_such_product\"\n$");
     QTest::newRow("unknown product pages")
@@ -383,7 +387,26 @@ void tst_ZRProducts::checkFindsEveryFault_data()
         << "/zero_page_type\\.xml: library warning while expanding the pages: Illegaler Seitentyp in der "
            "Produktbeschreibung\\.$";
     QTest::newRow("bad redirect") << "/bad_redirect\\.xml: library warning while reading: parse error$";
-    QTest::newRow("summary") << "^12 files checked in 2 directories: 12 problems$";
+    const QString keys = QStringLiteral("/unknown_keys\\.xml: ");
+    QTest::newRow("article class") << keys + "unknown article class \"sticker\" in /products/product/@class$";
+    QTest::newRow("image effect") << keys + "unknown image effect \"sepia\" in /products/product/@imageFXs$";
+    QTest::newRow("product alignment") << keys
+            + "unknown product alignment \"diagonal\" in /products/product/@productAlignment$";
+    QTest::newRow("conversion strategy") << keys
+            + "unknown conversion strategy \"RewriteMagic\" in /products/product/@conversionStrategy$";
+    QTest::newRow("product spot colour") << keys + "unknown spot colour \"platinum\" in /products/product/@spotColor$";
+    QTest::newRow("empty product spot colour") << keys + "empty spot colour in /products/product/@spotColor$";
+    QTest::newRow("surrounding alignment")
+        << keys + "unknown alignment \"outside\" in /products/product/surroundings/surrounding/@alignment$";
+    QTest::newRow("surrounding spot colour")
+        << keys + "unknown spot colour \"copper\" in /products/product/surroundings/surrounding/@spotColor$";
+    QTest::newRow("default page type") << keys
+            + "unknown page type \"inlay\" in /products/product/defaults/default/@pageType$";
+    QTest::newRow("page naming style") << keys
+            + "unknown page naming style \"leporello\" in /products/product/editorAbilities/pageNamingStyle$";
+    QTest::newRow("category page type") << keys
+            + "unknown page type \"envelope\" in /products/product/editorAbilities/jigs/content/categories/@pageType$";
+    QTest::newRow("summary") << "^13 files checked in 2 directories: 23 problems$";
 }
 
 void tst_ZRProducts::checkFindsEveryFault()
@@ -409,7 +432,7 @@ void tst_ZRProducts::checkJson()
             QVERIFY(object.value(QStringLiteral("path")).toString().startsWith(QLatin1String("/products/product/")));
     }
     const QMap<QString, int> expected { { "not-loaded", 1 }, { "no-product", 1 }, { "no-name", 1 }, { "invalid", 1 },
-        { "duplicate", 2 }, { "unknown-key", 3 }, { "warning", 3 } };
+        { "duplicate", 2 }, { "unknown-key", 3 + 11 }, { "warning", 3 } };
     QCOMPARE(kinds, expected);
 
     QCOMPARE(runJson({ QStringLiteral("check") }).array(), QJsonArray());

@@ -16,6 +16,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace {
 enum ExitCode
@@ -51,6 +52,14 @@ QTextStream &out()
 {
     static QTextStream stream(stdout);
     return stream;
+}
+
+/** The library's warnings, marked as such, on the standard error output. */
+void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    Q_UNUSED(context)
+    const bool warning = type != QtDebugMsg && type != QtInfoMsg;
+    std::fprintf(stderr, "zrproducts: %s%s\n", warning ? "warning: " : "", qUtf8Printable(message));
 }
 
 int fail(ExitCode code, const QString &message)
@@ -211,6 +220,7 @@ int showCategories(const Invocation &invocation)
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
+    qInstallMessageHandler(printMessage);
     QCoreApplication::setApplicationName(QStringLiteral("zrproducts"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZRPRODUCTPROPERTIES_VERSION_STRING));
 
