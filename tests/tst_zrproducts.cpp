@@ -156,7 +156,9 @@ void tst_ZRProducts::commandLine_data()
     QTest::newRow("no command") << QStringList {} << 2 << QString() << QStringLiteral("no command given");
     QTest::newRow("show without name") << QStringList { "show" } << 2 << QString() << usage;
     QTest::newRow("pages with a count that is no number") << QStringList { "pages", "calendar_wall_a3_portrait",
-        "many" } << 2 << QString() << QStringLiteral("not a number of pages: many");
+        "many" } << 2 << QString() << QStringLiteral("not a number of pages from 0 to 9999: many");
+    QTest::newRow("pages with too large a count") << QStringList { "pages", "calendar_wall_a3_portrait",
+        "4294967295" } << 2 << QString() << QStringLiteral("not a number of pages from 0 to 9999: 4294967295");
     QTest::newRow("three product directories") << QStringList { "list", "--products", brokenProducts, "--products",
         brokenProducts, "--products", brokenInstalled }
                                                << 2 << QString() << QStringLiteral("at most twice");

@@ -1,5 +1,7 @@
 #include "checker.h"
 
+#include "descriptions.h"
+
 #include "ZRArticleClass.h"
 #include "ZRCoverType.h"
 #include "ZRImageFXs.h"
@@ -212,7 +214,7 @@ QString CatalogueChecker::checkFile(const QFileInfo &file)
     QStringList pageWarnings;
     {
         WarningCollector collector;
-        description->pageTypes(24);
+        description->pageTypes(Descriptions::typicalContentPages);
         pageWarnings = collector.warnings();
     }
     const QString pagesNote = product.firstChildElement(QStringLiteral("pages")).isNull()

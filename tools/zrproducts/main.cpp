@@ -77,6 +77,9 @@ void printJson(const QJsonDocument &document)
     out() << document.toJson(QJsonDocument::Indented);
 }
 
+/** More content pages than any product has; a guard against expanding a mistyped count. */
+constexpr uint maximumContentPages = 9999;
+
 /** What every command gets: its arguments (after the command's name) and the chosen output form. */
 struct Invocation
 {
@@ -137,8 +140,11 @@ int showPages(const Invocation &invocation)
         return fail(ExitUsage, QStringLiteral("pages needs a product name and a number of content pages"));
     bool ok = false;
     const uint count = invocation.arguments.at(1).toUInt(&ok);
-    if (!ok)
-        return fail(ExitUsage, QStringLiteral("not a number of pages: %1").arg(invocation.arguments.at(1)));
+    if (!ok || count > maximumContentPages)
+        return fail(ExitUsage,
+            QStringLiteral("not a number of pages from 0 to %1: %2")
+                .arg(maximumContentPages)
+                .arg(invocation.arguments.at(1)));
     Catalogue::load();
     const ZRProductTypeDescription *description = Catalogue::find(invocation.arguments.first());
     if (!description)
