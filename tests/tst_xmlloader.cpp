@@ -1,0 +1,192 @@
+#include "ZRXMLLimits.h"
+#include "ZRXMLLoader.h"
+
+#include <QDirIterator>
+#include <QDomDocument>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <functional>
+#include <memory>
+
+namespace {
+/** Everything of a DOM that a caller can read, one node per line. */
+QString describe(const QDomNode &node, int level = 0)
+{
+    QString text = QString(level, QLatin1Char(' ')) + QString::number(node.nodeType()) + QLatin1Char(' ')
+        + node.nodeName() + QLatin1Char('=') + node.nodeValue();
+    const QDomNamedNodeMap attributes = node.attributes();
+    QStringList pairs;
+    for (int i = 0; i < attributes.count(); ++i)
+        pairs.append(attributes.item(i).nodeName() + QLatin1Char('=') + attributes.item(i).nodeValue());
+    pairs.sort();
+    text += QLatin1Char(' ') + pairs.join(QLatin1Char(' '));
+    if (node.isDocument()) {
+        const QDomDocumentType type = node.toDocument().doctype();
+        text
+            += QLatin1Char(' ') + type.name() + QLatin1Char(' ') + type.publicId() + QLatin1Char(' ') + type.systemId();
+    }
+    text += QLatin1Char('\n');
+    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
+        text += describe(child, level + 1);
+    return text;
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
+}
+
+QByteArray withAttributes(int count)
+{
+    QByteArray element = "<a";
+    for (int i = 0; i < count; ++i)
+        element += " n" + QByteArray::number(i) + "=''";
+    return element + "/>";
+}
+
+QByteArray utf16(const QByteArray &document)
+{
+    const QString text = QString::fromUtf8(document);
+    return QByteArray("\xFF\xFE") + QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
+}
+
+/** A document of exactly @p size bytes, made of comments that stay within the value limit. */
+QByteArray documentOfSize(qint64 size)
+{
+    QByteArray document = "<a>";
+    const QByteArray end = "</a>";
+    while (document.size() + end.size() < size) {
+        const qint64 room = size - document.size() - end.size();
+        document
+            += room < 8 ? QByteArray(room, ' ') : "<!--" + QByteArray(qMin(room - 7, qint64(1000000)), 'c') + "-->";
+    }
+    return document + end;
+}
+
+void runWithStack(uint stackSize, const std::function<void()> &work)
+{
+    std::unique_ptr<QThread> thread(QThread::create(work));
+    thread->setStackSize(stackSize);
+    thread->start();
+    QVERIFY(thread->wait());
+}
+} // namespace
+
+class tst_XMLLoader : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
+
+    void sameDomAsSetContent_data();
+    void sameDomAsSetContent();
+    void limits_data();
+    void limits();
+    void deepDocumentsOnSmallStack();
+};
+
+void tst_XMLLoader::sameDomAsSetContent_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::newRow("element") << QByteArray("<a/>");
+    QTest::newRow("declaration, comments, PIs, CDATA, blank text")
+        << QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n<!-- c --><?pi data?>\n"
+                      "<a> x <b>  </b><![CDATA[  ]]><![CDATA[]]>&amp;&#32;<!--in--><?p q?></a><!--after-->");
+    QTest::newRow("blank character references") << QByteArray("<a><b>&#32;&#10;</b><c> &#160; </c>\xC2\xA0</a>");
+    QTest::newRow("references in values") << QByteArray("<a b='&#10;&amp;\t&lt;'>a&lt;b&#x41;c</a>");
+    QTest::newRow("bare document type") << QByteArray("<?xml version='1.0'?><!-- x --><!DOCTYPE TS><!-- y --><TS/>");
+    QTest::newRow("external document type") << QByteArray("<!DOCTYPE a PUBLIC \"-//x//y\" \"a.dtd\"><a>&nbsp;</a>");
+    QTest::newRow("blank internal subset") << QByteArray("<!DOCTYPE a [ ]><a/>");
+    QTest::newRow("namespaces") << QByteArray("<x:a xmlns:x='urn:x' x:b='1' xmlns='urn:d'><c y:d='2'/></x:a>");
+    QTest::newRow("Latin-1") << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><a b='\xE4'>\xF6</a>");
+    QTest::newRow("UTF-16") << utf16("<?xml version='1.0' encoding='UTF-16'?><a b='\xC3\xA4'>t</a>");
+    QDirIterator samples(QStringLiteral(ZR_EXAMPLES_DIR), { QStringLiteral("*.xml"), QStringLiteral("*.ts") },
+        QDir::Files, QDirIterator::Subdirectories);
+    const QDir examples(QStringLiteral(ZR_EXAMPLES_DIR));
+    while (samples.hasNext()) {
+        QFile file(samples.next());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QTest::newRow(qPrintable(examples.relativeFilePath(file.fileName()))) << file.readAll();
+    }
+}
+
+void tst_XMLLoader::sameDomAsSetContent()
+{
+    QFETCH(QByteArray, document);
+    QDomDocument expected;
+    QVERIFY(expected.setContent(document));
+    const QDomDocument loaded = ZRXMLLoader::loadDocument(document);
+    QVERIFY(!loaded.isNull());
+    QCOMPARE(describe(loaded), describe(expected));
+    QCOMPARE(describe(ZRXMLLoader::loadDocumentElement(document)), describe(expected.documentElement()));
+}
+
+void tst_XMLLoader::limits_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<bool>("accepted");
+    const QByteArray longValue(ZRXMLLimits::maxValueLength, 'x');
+    QTest::newRow("deepest nesting") << nested(ZRXMLLimits::maxDepth) << true;
+    QTest::newRow("one level deeper") << nested(ZRXMLLimits::maxDepth + 1) << false;
+    QTest::newRow("most attributes") << withAttributes(ZRXMLLimits::maxAttributes) << true;
+    QTest::newRow("one attribute more") << withAttributes(ZRXMLLimits::maxAttributes + 1) << false;
+    QTest::newRow("most attributes, UTF-16") << utf16(withAttributes(ZRXMLLimits::maxAttributes)) << true;
+    QTest::newRow("one attribute more, UTF-16") << utf16(withAttributes(ZRXMLLimits::maxAttributes + 1)) << false;
+    const QByteArray equals(2 * ZRXMLLimits::maxAttributes, '=');
+    QTest::newRow("'=' outside attributes") << QByteArray("<!DOCTYPE a SYSTEM '" + equals + "'><?p " + equals
+        + "?><a b='" + equals + "' c=\">" + equals + "\"><!--" + equals + "--><![CDATA[" + equals + "]]>" + equals
+        + "</a>") << true;
+    QTest::newRow("longest text") << "<a>" + longValue + "</a>" << true;
+    QTest::newRow("longer text") << "<a>x" + longValue + "</a>" << false;
+    QTest::newRow("longer CDATA") << "<a><![CDATA[x" + longValue + "]]></a>" << false;
+    QTest::newRow("longest attribute value") << "<a b='" + longValue + "'/>" << true;
+    QTest::newRow("longer attribute value") << "<a b='x" + longValue + "'/>" << false;
+    QTest::newRow("longer comment") << "<a><!--x" + longValue + "--></a>" << false;
+    QTest::newRow("longer PI data") << "<a><?p x" + longValue + "?></a>" << false;
+    QTest::newRow("entity declaration") << QByteArray("<!DOCTYPE a [<!ENTITY e 'v'>]><a>&e;</a>") << false;
+    QTest::newRow("element declaration") << QByteArray("<!DOCTYPE TS [<!ELEMENT TS ANY>]><TS/>") << false;
+    QTest::newRow("attribute list declaration") << QByteArray("<!DOCTYPE a [<!ATTLIST a b CDATA 'c'>]><a/>") << false;
+    QTest::newRow("comment in internal subset") << QByteArray("<!DOCTYPE a [<!-- c -->]><a/>") << false;
+    QTest::newRow("largest document") << documentOfSize(ZRXMLLimits::maxDocumentSize) << true;
+    QTest::newRow("one byte larger") << documentOfSize(ZRXMLLimits::maxDocumentSize + 1) << false;
+    QTest::newRow("empty") << QByteArray() << false;
+    QTest::newRow("not well-formed") << QByteArray("<a><b></a>") << false;
+}
+
+void tst_XMLLoader::limits()
+{
+    QFETCH(QByteArray, document);
+    QFETCH(bool, accepted);
+    QCOMPARE(!ZRXMLLoader::loadDocumentElement(document).isNull(), accepted);
+
+    QTemporaryDir dir;
+    QFile file(dir.filePath(QStringLiteral("document.xml")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(document), document.size());
+    file.close();
+    QCOMPARE(!ZRXMLLoader::loadDocumentElement(QFileInfo(file.fileName())).isNull(), accepted);
+}
+
+// Destroying a DOM recurses once per level: the deepest document allowed must fit the stack of a
+// thread of the editor, and a deeper one must be dropped before it grows.
+void tst_XMLLoader::deepDocumentsOnSmallStack()
+{
+    int depth = 0;
+    bool deepRefused = false;
+    runWithStack(512 * 1024, [&] {
+        for (QDomElement e = ZRXMLLoader::loadDocumentElement(nested(ZRXMLLimits::maxDepth)); !e.isNull();
+             e = e.firstChildElement())
+            ++depth;
+        deepRefused = ZRXMLLoader::loadDocumentElement(nested(130000)).isNull()
+            && ZRXMLLoader::loadDocumentElement(QByteArray("<a>").repeated(130000)).isNull();
+    });
+    QCOMPARE(depth, ZRXMLLimits::maxDepth);
+    QVERIFY(deepRefused);
+}
+
+QTEST_GUILESS_MAIN(tst_XMLLoader)
+#include "tst_xmlloader.moc"
