@@ -135,8 +135,8 @@ void tst_ZRProducts::commandLine_data()
     QTest::newRow("pages text") << QStringList { "pages", "calendar_wall_a3_portrait", "2" } << 0
                                 << QStringLiteral("^INDEX +PAGE TYPE +ALIGNMENT +MARGIN +LAYOUT +BACKGROUND +DESIGN\n"
                                                   "0 +title +left +50 +Kalender-Titel-1-Foto +201 +-\n"
-                                                  "1 +photo_page +right +50 +- +- +-\n"
-                                                  "2 +grid_page +left +50 +- +- +-\n$")
+                                                  "1 +photo_page +right +50 +Kalender-1-Foto-Vollflaeche +201 +-\n"
+                                                  "2 +grid_page +left +50 +Kalendarium-Monat-Zeile +201 +-\n$")
                                 << QString();
     QTest::newRow("sample catalogue is clean")
         << QStringList { "check" } << 0 << QStringLiteral("^12 files checked in 3 directories: no problems\n$")
