@@ -129,6 +129,14 @@ void tst_ZRProducts::commandLine_data()
                                       "Has text on spine: +yes\n(.|\n)*Safety margins:\n  All: +50\n  Covers: "
                                       "+170\n  Fold: +60\n(.|\n)*- Jig: +frame\n +Name: +Rahmen\n +Enabled: +no")
                                << QString();
+    QTest::newRow("show in English")
+        << QStringList { "show", "walldecor_canvas_60x40", "--lang", "en" } << 0
+        << QStringLiteral("- Jig: +frame\n +Name: +Frame\n(.|\n)*- Jig: +wallholder\n +Name: +Wall mount\n"
+                          "(.|\n)*\n  Description: +Photo canvas\n")
+        << QString();
+    QTest::newRow("show in German, the source language")
+        << QStringList { "show", "walldecor_canvas_60x40", "--lang", "de" } << 0
+        << QStringLiteral("- Jig: +frame\n +Name: +Rahmen\n(.|\n)*\n  Description: +Fotoleinwand\n") << QString();
     QTest::newRow("show legacy product") << QStringList { "show", "card_postcard_easy_a6_2018" } << 0
                                          << QStringLiteral("Legacy: +yes\n(.|\n)*Replaced by: +card_folded_vario_a6\n")
                                          << QString();
@@ -331,6 +339,8 @@ void tst_ZRProducts::categories_data()
 
     QTest::newRow("special, English") << QStringList { "--lang", "en" } << "Papierkorb"
                                       << "Recycle bin" << QJsonValue(QJsonValue::Null);
+    QTest::newRow("show-all keyed by the library's English") << QStringList { "--lang", "en" } << "Show all"
+                                                             << "Show all" << QJsonValue(QJsonValue::Null);
     QTest::newRow("special, German") << QStringList { "--lang", "de" } << "Papierkorb"
                                      << "Papierkorb" << QJsonValue(QJsonValue::Null);
     QTest::newRow("colour of colors.xml") << QStringList { "--lang", "en" } << "Weiß"

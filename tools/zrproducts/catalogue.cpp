@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <QTranslator>
 
 namespace {
 bool isCatalogue(const QString &path)
@@ -23,6 +24,24 @@ bool checkDirectory(const QString &path, QString *error)
         return true;
     *error = QStringLiteral("no such directory: %1").arg(path);
     return false;
+}
+
+/**
+ * Installs the library's translation for @p locale: the one installed with the library beside the
+ * program, else the one built in this tree. Without either, the display texts stay in the source language.
+ */
+void installLibraryTranslation(const QLocale &locale)
+{
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    const QString installed = QDir(QCoreApplication::applicationDirPath())
+                                  .absoluteFilePath(QStringLiteral(ZRPRODUCTS_INSTALLED_TRANSLATIONS));
+    for (const QString &directory : { installed, QStringLiteral(ZRPRODUCTS_BUILD_TRANSLATIONS) }) {
+        if (translator->load(locale, QStringLiteral("ZRProductProperties"), QStringLiteral("_"), directory)) {
+            QCoreApplication::installTranslator(translator);
+            return;
+        }
+    }
+    delete translator;
 }
 
 // The resources and translations of one catalogue root go together.
@@ -47,7 +66,8 @@ bool Catalogue::configure(const CatalogueOptions &options, QString *error)
     if (!options.resourcesDir.isEmpty() && !checkDirectory(options.resourcesDir, error))
         return false;
 
-    // The language decides which translation files are read, so it is set before anything is loaded.
+    // The language decides which translation files are read and how the library's tables are translated
+    // when they are first filled, so it is set before anything is loaded.
     if (!options.language.isEmpty()) {
         const QLocale locale(options.language);
         if (locale.language() == QLocale::C) {
@@ -55,6 +75,7 @@ bool Catalogue::configure(const CatalogueOptions &options, QString *error)
             return false;
         }
         ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setLocale(locale);
+        installLibraryTranslation(locale);
     }
 
     ZRDirectoryConfig *config = ZRSingleton<ZRDirectoryConfig>::instance();

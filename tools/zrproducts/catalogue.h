@@ -29,10 +29,11 @@ class Catalogue
 {
 public:
     /**
-     * Sets the language and the directory configuration. Without any directory, neither as an option
-     * nor in the environment (ZR_PRODUCTS_DIR, ZR_PRODUCTS_FALLBACK_DIR, ZR_RESOURCES_DIR), the
-     * bundled sample catalogue is used. Returns false and sets @p error for options that cannot be
-     * used (more than two product directories, a directory that does not exist, no sample catalogue).
+     * Sets the language, with the library's translation for it, and the directory configuration.
+     * Without any directory, neither as an option nor in the environment (ZR_PRODUCTS_DIR,
+     * ZR_PRODUCTS_FALLBACK_DIR, ZR_RESOURCES_DIR), the bundled sample catalogue is used. Returns false
+     * and sets @p error for options that cannot be used (more than two product directories, a directory
+     * that does not exist, no sample catalogue).
      */
     static bool configure(const CatalogueOptions &options, QString *error);
 
