@@ -41,7 +41,7 @@ QByteArray readRegularFile(const QString &path)
 
     QByteArray content;
     if (::fstat(fd, &status) == 0 && isAcceptableFile(status)) {
-        // One byte more than the limit tells a file that grew past it since from one that reached it.
+        // Reading up to one byte past the limit shows a file that has grown beyond it since the check.
         const qsizetype limit = ZRXMLLimits::maxDocumentSize + 1;
         content.resize(std::min<qsizetype>(status.st_size + 1, limit));
         qsizetype length = 0;
