@@ -25,7 +25,9 @@ ZRContentDropRedirectList::ZRContentDropRedirectList(const QDomElement &element)
         const int to = ZRXMLParser::intAttribute(redirect, QStringLiteral("to"), -1);
 
         if (!firstOk || !lastOk || last < 0 || to < 0) {
-            qWarning("parse error");
+            // The source location names the class, as the product data maintainers' tools expect.
+            QMessageLogger("libs/ZRProductProperties/ZRContentDropRedirectList", __LINE__, Q_FUNC_INFO)
+                .warning("parse error");
             continue;
         }
         // Counted in 64 bits so that a range ending at the largest int still terminates.
