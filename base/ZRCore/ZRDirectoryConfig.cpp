@@ -37,7 +37,7 @@ QString ZRDirectoryConfig::resourcePath(const QString &name) const
 
 QDir ZRDirectoryConfig::productsDir(bool current) const
 {
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     if (current)
         return QDir(m_currentProductsDir.isEmpty() ? resourcePath(QStringLiteral("products/current")) : m_currentProductsDir);
     return QDir(m_installedProductsDir.isEmpty() ? resourcePath(QStringLiteral("products")) : m_installedProductsDir);
@@ -46,26 +46,26 @@ QDir ZRDirectoryConfig::productsDir(bool current) const
 QString ZRDirectoryConfig::resource(const QString &name, bool userSpecific) const
 {
     Q_UNUSED(userSpecific)
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     return resourcePath(name);
 }
 
 QDir ZRDirectoryConfig::resourcesDir() const
 {
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     return QDir(m_resourcesDir);
 }
 
 QDir ZRDirectoryConfig::glimmerThumbnailsDirectory(bool userSpecific) const
 {
     Q_UNUSED(userSpecific)
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     return QDir(m_thumbnailsDir.isEmpty() ? resourcePath(QStringLiteral("thumbnails")) : m_thumbnailsDir);
 }
 
 QStringList ZRDirectoryConfig::allGlimmerThematicTranslationsDirectories() const
 {
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     if (m_translationsDirsSet)
         return m_translationsDirs;
     return { resourcePath(QStringLiteral("translations")) };
@@ -73,25 +73,25 @@ QStringList ZRDirectoryConfig::allGlimmerThematicTranslationsDirectories() const
 
 void ZRDirectoryConfig::setProductsDir(bool current, const QDir &dir)
 {
-    QWriteLocker locker(&m_lock);
+    ZRWriteLocker locker(&m_lock);
     (current ? m_currentProductsDir : m_installedProductsDir) = dir.absolutePath();
 }
 
 void ZRDirectoryConfig::setResourcesDir(const QDir &dir)
 {
-    QWriteLocker locker(&m_lock);
+    ZRWriteLocker locker(&m_lock);
     m_resourcesDir = dir.absolutePath();
 }
 
 void ZRDirectoryConfig::setGlimmerThumbnailsDirectory(const QDir &dir)
 {
-    QWriteLocker locker(&m_lock);
+    ZRWriteLocker locker(&m_lock);
     m_thumbnailsDir = dir.absolutePath();
 }
 
 void ZRDirectoryConfig::setGlimmerThematicTranslationsDirectories(const QStringList &dirs)
 {
-    QWriteLocker locker(&m_lock);
+    ZRWriteLocker locker(&m_lock);
     m_translationsDirs = dirs;
     m_translationsDirsSet = true;
 }

@@ -5,7 +5,6 @@
 #include "zrcore_export.h"
 
 #include <QDir>
-#include <QReadWriteLock>
 #include <QStringList>
 
 /**
@@ -44,7 +43,7 @@ public:
 private:
     QString resourcePath(const QString &name) const;
 
-    mutable QReadWriteLock m_lock;
+    mutable ZRReadWriteLock m_lock;
     QString m_resourcesDir;
     QString m_currentProductsDir;
     QString m_installedProductsDir;

@@ -6,7 +6,6 @@
 #include "zrcore_export.h"
 
 #include <QList>
-#include <QMutex>
 
 /**
  * The start-up hooks of all loaded libraries, in the order they registered. Reached as
@@ -27,7 +26,7 @@ public:
     void teardownAll();
 
 private:
-    mutable QMutex m_mutex;
+    mutable ZRMutex m_mutex;
     QList<ZRInitializerAbstract *> m_initializers;
 };
 

@@ -6,7 +6,6 @@
 
 #include <QByteArray>
 #include <QLocale>
-#include <QReadWriteLock>
 
 /**
  * The user-interface language of the editor. Reached as
@@ -32,7 +31,7 @@ public:
     void setThematicTranslations(const QByteArray &document);
 
 private:
-    mutable QReadWriteLock m_lock;
+    mutable ZRReadWriteLock m_lock;
     QLocale m_locale;
     bool m_languageChanged = false;
     QByteArray m_thematicTranslations;

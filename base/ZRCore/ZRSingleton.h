@@ -1,7 +1,7 @@
 #ifndef ZRSINGLETON_H
 #define ZRSINGLETON_H
 
-#include <QReadWriteLock>
+#include "ZRLocks.h"
 
 /**
  * The lazily created, process-wide instance of @p T, made with T's default constructor on the first
@@ -10,6 +10,9 @@
  * instance() keeps its lock and pointer in function-local statics, so each T needs one home: T's
  * header declares `extern template class EXPORT ZRSingleton<T>;` and T's source file instantiates
  * it; otherwise every shared library that calls instance() would make its own T.
+ *
+ * The lock is checked for reading first, so that once T exists callers only share the read lock; the
+ * check is repeated under the write lock so that exactly one T is made.
  */
 template<typename T>
 class ZRSingleton
@@ -27,16 +30,15 @@ protected:
 template<typename T>
 T *ZRSingleton<T>::instance()
 {
-    static QReadWriteLock lock;
+    static ZRReadWriteLock lock;
     static T *myInstance = nullptr;
 
-    lock.lockForRead();
-    T *existing = myInstance;
-    lock.unlock();
-    if (existing)
-        return existing;
-
-    QWriteLocker locker(&lock);
+    {
+        ZRReadLocker locker(&lock);
+        if (myInstance)
+            return myInstance;
+    }
+    ZRWriteLocker locker(&lock);
     if (!myInstance)
         myInstance = new T();
     return myInstance;

@@ -14,12 +14,12 @@ ZRCSSSkinManager::~ZRCSSSkinManager() = default;
 
 QColor ZRCSSSkinManager::backgroundColor() const
 {
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     return m_backgroundColor;
 }
 
 void ZRCSSSkinManager::setBackgroundColor(const QColor &color)
 {
-    QWriteLocker locker(&m_lock);
+    ZRWriteLocker locker(&m_lock);
     m_backgroundColor = color;
 }

@@ -5,7 +5,6 @@
 #include "zrguiwidgets_export.h"
 
 #include <QColor>
-#include <QReadWriteLock>
 
 /**
  * The colours of the editor's current skin. Reached as ZRSingleton<ZRCSSSkinManager>::instance().
@@ -22,7 +21,7 @@ public:
     void setBackgroundColor(const QColor &color);
 
 private:
-    mutable QReadWriteLock m_lock;
+    mutable ZRReadWriteLock m_lock;
     QColor m_backgroundColor;
 };
 

@@ -8,20 +8,20 @@ ZRProductCheckerRegistry::~ZRProductCheckerRegistry() = default;
 
 void ZRProductCheckerRegistry::registerChecker(ZRProductChecker *checker)
 {
-    QWriteLocker locker(&m_lock);
+    ZRWriteLocker locker(&m_lock);
     if (checker && !m_checkers.contains(checker))
         m_checkers.append(checker);
 }
 
 QList<ZRProductChecker *> ZRProductCheckerRegistry::checkers() const
 {
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     return m_checkers;
 }
 
 bool ZRProductCheckerRegistry::isValid(const ZRProductType &type, int mask) const
 {
-    QReadLocker locker(&m_lock);
+    ZRReadLocker locker(&m_lock);
     for (const ZRProductChecker *checker : m_checkers) {
         if ((checker->type() & mask) && !checker->isValid(type))
             return false;

@@ -6,7 +6,6 @@
 #include "zrproductbase_export.h"
 
 #include <QList>
-#include <QReadWriteLock>
 
 /**
  * The product checkers of all loaded libraries. Reached as
@@ -25,7 +24,7 @@ public:
     bool isValid(const ZRProductType &type, int mask) const;
 
 private:
-    mutable QReadWriteLock m_lock;
+    mutable ZRReadWriteLock m_lock;
     QList<ZRProductChecker *> m_checkers;
 };
 

@@ -6,7 +6,6 @@
 
 #include <QHash>
 #include <QList>
-#include <QMutex>
 #include <QString>
 
 class ZRThematicCategoryRegistry;
@@ -56,7 +55,7 @@ protected:
 
 private:
     int nextKey = 1;
-    mutable QMutex mutex;
+    mutable ZRMutex mutex;
     QHash<int, QString> internalNames;
     QHash<int, QString> visibleNames;
     QHash<QString, int> keysByInternalName;

@@ -110,7 +110,7 @@ bool ZRThematicCategoryTranslationRegistry::parseXML(const QDomElement &root)
 void ZRThematicCategoryTranslationRegistry::addTranslations(
     const QString &localeName, const QHash<QString, QString> &table)
 {
-    QWriteLocker locker(&lock);
+    ZRWriteLocker locker(&lock);
     QHash<QString, QString> *&target = translations[localeName];
     if (!target)
         target = new QHash<QString, QString>;
@@ -120,7 +120,7 @@ void ZRThematicCategoryTranslationRegistry::addTranslations(
 
 QString ZRThematicCategoryTranslationRegistry::translation(const QString &source, const QLocale &locale) const
 {
-    QReadLocker locker(&lock);
+    ZRReadLocker locker(&lock);
     const QString key = source.simplified();
     const QHash<QString, QString> *table = translations.value(locale.name());
     if (table) {

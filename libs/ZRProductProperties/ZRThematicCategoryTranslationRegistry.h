@@ -8,7 +8,6 @@
 #include <QDomElement>
 #include <QHash>
 #include <QLocale>
-#include <QReadWriteLock>
 #include <QString>
 #include <QStringList>
 
@@ -74,7 +73,7 @@ protected:
 
 private:
     QHash<QString, QHash<QString, QString> *> translations;
-    mutable QReadWriteLock lock { QReadWriteLock::Recursive };
+    mutable ZRReadWriteLock lock { QReadWriteLock::Recursive };
 };
 
 #endif
