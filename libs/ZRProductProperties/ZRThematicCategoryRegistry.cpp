@@ -4,7 +4,6 @@
 #include "ZRThematicCategory.h"
 #include "ZRThematicCategoryTranslationRegistry.h"
 
-#include <QMutexLocker>
 #include <QStringList>
 
 #include <algorithm>
@@ -33,7 +32,7 @@ ZRThematicCategoryRegistry::~ZRThematicCategoryRegistry() = default;
 
 int ZRThematicCategoryRegistry::key(const QString &name)
 {
-    QMutexLocker locker(&mutex);
+    ZRMutexLocker locker(&mutex);
     const QString lowerName = name.toLower();
     auto found = keysByInternalName.constFind(lowerName);
     if (found != keysByInternalName.cend())
@@ -71,13 +70,13 @@ int ZRThematicCategoryRegistry::generateKey(const QString &lowerVisibleName)
 
 QString ZRThematicCategoryRegistry::internalName(const int &key) const
 {
-    QMutexLocker locker(&mutex);
+    ZRMutexLocker locker(&mutex);
     return internalNames.value(key);
 }
 
 QString ZRThematicCategoryRegistry::visibleName(const int &key) const
 {
-    QMutexLocker locker(&mutex);
+    ZRMutexLocker locker(&mutex);
     return visibleNames.value(key);
 }
 
@@ -88,7 +87,7 @@ void ZRThematicCategoryRegistry::setVisibleName(const int &key, const QString &n
 
 QList<int> ZRThematicCategoryRegistry::keys() const
 {
-    QMutexLocker locker(&mutex);
+    ZRMutexLocker locker(&mutex);
     QList<int> result = internalNames.keys();
     std::sort(result.begin(), result.end());
     return result;
