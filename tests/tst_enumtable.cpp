@@ -9,7 +9,7 @@
 #include <QTest>
 
 namespace {
-enum ProbeEnum
+enum ProbeEnum : int
 {
     ProbeNone = 0,
     ProbeLow = 1,

@@ -5,7 +5,7 @@
 #include "zrcore_export.h"
 
 /** Unit of a length. Keys: "tenth_mm" 1 (tenths of a millimetre, the unit of description files), "mm" 2, "inch" 4, "cm" 8, "pt" 16. */
-enum ZRDistanceUnitEnum {
+enum ZRDistanceUnitEnum : int {
     ZRDistanceUnitTenthMM = 1,
     ZRDistanceUnitMM = 2,
     ZRDistanceUnitInch = 4,

@@ -3,10 +3,23 @@
 
 #include "ZREnumToStringTable.h"
 
-#include <QMutex>
-#include <QMutexLocker>
+#include "ZRLocks.h"
 
 #include <atomic>
+#include <type_traits>
+
+/**
+ * True for enumerations declared with a fixed underlying type ("enum ZRFooEnum : int"): only
+ * those can be list-initialised from their underlying type.
+ */
+template<typename E, typename = void>
+struct ZRHasFixedUnderlyingType : std::false_type
+{
+};
+template<typename E>
+struct ZRHasFixedUnderlyingType<E, std::void_t<decltype(E { std::underlying_type_t<E> {} })>> : std::true_type
+{
+};
 
 /**
  * Base of every enumerated value class: one flag value of @p E with flag arithmetic, comparisons
@@ -19,6 +32,10 @@
 template<typename E>
 class ZREnumWrapper
 {
+    // Values are flag sets of any bits, including the sign bit; an enumeration without a fixed
+    // underlying type only has the values of its named flags, and holding any other is undefined.
+    static_assert(ZRHasFixedUnderlyingType<E>::value, "declare the flag enumeration with a fixed underlying type");
+
 public:
     using Enum = E;
     using Table = ZREnumToStringTable<E>;
@@ -104,8 +121,8 @@ const ZREnumToStringTable<E> *ZREnumWrapper<E>::enumToStringTable() const
     static std::atomic<Table *> myTable { nullptr };
     if (Table *published = myTable.load(std::memory_order_acquire))
         return published;
-    static QMutex theMutex;
-    QMutexLocker locker(&theMutex);
+    static ZRMutex theMutex;
+    ZRMutexLocker locker(&theMutex);
     Table *table = myTable.load(std::memory_order_relaxed);
     if (!table) {
         table = new Table;

@@ -5,7 +5,7 @@
 #include "zrcore_export.h"
 
 /** Where a page lies in its spread. Keys: "left", "right", "center", "top", "bottom", "middle", "all". */
-enum ZRPageAlignmentEnum {
+enum ZRPageAlignmentEnum : int {
     ZRPageAlignmentNone = 0,
     ZRPageAlignmentLeft = 1,
     ZRPageAlignmentRight = 2,

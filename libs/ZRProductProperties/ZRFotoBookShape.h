@@ -10,7 +10,7 @@
  * Formats of a photo book. Keys: "UNKONWN" 0, "mini" 1, "tiny" 2 (shown as "Kids"), "a5-landscape" 4,
  * "a5-quadratic" 8, "a4" 16, "a4-landscape" 32, "quadratic" 64, "xl" 128, "xxl" 256, "xxl-landscape" 512.
  */
-enum ZRFotoBookShapeEnum
+enum ZRFotoBookShapeEnum : int
 {
     ZRFotoBookShapeUnknown = 0,
     ZRFotoBookShapeMini = 1,

@@ -5,7 +5,7 @@
 #include "zrproductproperties_export.h"
 
 /** Image effects of an element. Keys: "grayscale" 1 (synonym "gray"), "none" 0, "PRESERVE_ALPHA_CHANNEL" 4. */
-enum ZRImageFXsEnum
+enum ZRImageFXsEnum : int
 {
     ZRImageFXsGrayscale = 1,
     ZRImageFXsNone = 0,

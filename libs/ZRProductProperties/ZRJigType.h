@@ -12,7 +12,7 @@
  * "frame", "Rahmen" 128; "frame_passepartout" 256; "frame_glas" 512; "wallholder" 1024; "styles_v2" 2048;
  * "storybook" 4096; "variant_template" 8192.
  */
-enum ZRJigTypeEnum
+enum ZRJigTypeEnum : int
 {
     ZRJigTypeUnknown = 0,
     ZRJigTypeBackground = 1,

@@ -8,7 +8,7 @@
 
 /** How the editor names the pages of a product. "none" is a flag of its own (bit 21), not 0; "slipcase" is bit 31, so
  * encodeCSV() of any value holding it gives "UNKOWN". Values without a key encode as "UNKOWN". */
-enum ZRPageNamingStyleEnum
+enum ZRPageNamingStyleEnum : quint32
 {
     ZRPageNamingNone = 0x200000,
     ZRPageNamingBook = 1,

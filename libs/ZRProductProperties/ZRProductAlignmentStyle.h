@@ -6,7 +6,7 @@
 
 /** How the pages of a product are laid out. Keys: "normal" 0, "card" 1, "vario_card" 2, "collegeblock" 4,
  * "foto_advent_calendar" 8. */
-enum ZRProductAlignmentStyleEnum
+enum ZRProductAlignmentStyleEnum : int
 {
     ZRProductAlignmentNormal = 0,
     ZRProductAlignmentCard = 1,

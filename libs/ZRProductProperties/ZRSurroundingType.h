@@ -6,7 +6,7 @@
 
 /** Kinds of surrounding (printed frames and borders). Keys are written in upper case and read in any case; there is no
  * key for 0. */
-enum ZRSurroundingTypeEnum
+enum ZRSurroundingTypeEnum : int
 {
     ZRSurroundingTypeBook = 1,
     ZRSurroundingTypePhotoPaperBook = 64,

@@ -7,7 +7,7 @@
 /** How an old project file is rewritten for a product. Two keys name combined values:
  * "RewriteOneSidedEasyToTwoSidedVario" (5) and "RewriteOneSidedVario10ToTwoSidedVario5" (9); any other text decodes to
  * 0 (no rewriting). */
-enum ZRXMLRewriterStrategyEnum
+enum ZRXMLRewriterStrategyEnum : int
 {
     ZRXMLRewriterOneToTwoSides = 1,
     ZRXMLRewriterOneToTwoPages = 2,
