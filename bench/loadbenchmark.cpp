@@ -1,0 +1,461 @@
+// zrbench_load: the catalogue load against the bare DOM parse of the same files, side by side in one
+// process, and the resident memory that loaded products keep.
+//
+//   zrbench_load [--dir DIR] [--sizes 200,2000,20000] [--repeat N]
+//   zrbench_load --single dom|loader|registry [--dir DIR] [--sizes N]   (one pass, for callgrind)
+//   zrbench_load --memory-breakdown [--dir DIR] [--sizes N]               (heap kept per part)
+//
+// For every size the catalogue is generated once under DIR (reused by later runs), read once to warm
+// the page cache, and then timed REPEAT times, the order of the passes rotating from run to run:
+// (a) list the directory, read every file and QDomDocument::setContent() it; (b) the same with the
+// library's guarded ZRXMLLoader instead of setContent(); (c) construct a registry over the directory,
+// which lists, loads (as b) and builds every description. Medians are printed, of wall-clock and of
+// thread CPU time. Memory is measured in a fresh child process per size, so that memory freed by
+// earlier passes cannot hide what the registry keeps.
+
+#include "cataloguegenerator.h"
+
+#include <ZRDefaultTemplateMap.h>
+#include <ZRPreview3DDescription.h>
+#include <ZRProductClassification.h>
+#include <ZRProductEditorAbilities.h>
+#include <ZRProductTypeConfigRegistryAbstract.h>
+#include <ZRProductTypeDescription.h>
+#include <ZRSurroundingDescriptionList.h>
+#include <ZRXMLLoader.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QDomDocument>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTextStream>
+
+#include <algorithm>
+#include <ctime>
+#include <list>
+#include <malloc.h>
+#include <unistd.h>
+
+namespace {
+
+QTextStream out(stdout);
+
+/** A registry over one directory, loaded in its constructor like the editor's registries. */
+class DirectoryRegistry : public ZRProductTypeConfigRegistryAbstract
+{
+public:
+    explicit DirectoryRegistry(const QDir &directory)
+        : m_directory(directory)
+    {
+        load();
+    }
+    QList<QDir> supervisedDirs() const override { return { m_directory }; }
+
+private:
+    QDir m_directory;
+};
+
+double median(QList<double> values)
+{
+    if (values.isEmpty())
+        return 0.0;
+    std::sort(values.begin(), values.end());
+    const qsizetype middle = values.size() / 2;
+    return values.size() % 2 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2.0;
+}
+
+/**
+ * Wall-clock and CPU time of one pass, in ms. The CPU time of the thread is the steadier figure on a
+ * machine shared with other work: it leaves out the time spent waiting for a core.
+ */
+struct Timing
+{
+    double wallMs = 0;
+    double cpuMs = 0;
+};
+
+class Stopwatch
+{
+public:
+    Stopwatch()
+        : m_cpuStart(threadCpuNs())
+    {
+        m_wall.start();
+    }
+    Timing elapsed() const { return { double(m_wall.nsecsElapsed()) / 1e6, double(threadCpuNs() - m_cpuStart) / 1e6 }; }
+
+private:
+    static qint64 threadCpuNs()
+    {
+        timespec now {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+        return qint64(now.tv_sec) * 1000000000 + now.tv_nsec;
+    }
+    QElapsedTimer m_wall;
+    qint64 m_cpuStart;
+};
+
+/** The bare parse: the same listing as the reader, then read and setContent() every file. */
+Timing timeDomParse(const QDir &directory, int *documents)
+{
+    const Stopwatch stopwatch;
+    const QFileInfoList files = directory.entryInfoList({ QStringLiteral("*.xml") }, QDir::Files, QDir::Unsorted);
+    int parsed = 0;
+    for (const QFileInfo &info : files) {
+        QFile file(info.absoluteFilePath());
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        QDomDocument document;
+        if (document.setContent(file.readAll()))
+            ++parsed;
+    }
+    const Timing timing = stopwatch.elapsed();
+    *documents = parsed;
+    return timing;
+}
+
+/**
+ * The documents as the reader gets them: the same listing, then ZRXMLLoader, which checks the input
+ * against its limits and builds the DOM itself. The difference to timeDomParse() is the loader's,
+ * the difference to timeRegistryLoad() is what the descriptions add.
+ */
+Timing timeLoaderParse(const QDir &directory, int *documents)
+{
+    const Stopwatch stopwatch;
+    const QFileInfoList files = directory.entryInfoList({ QStringLiteral("*.xml") }, QDir::Files, QDir::Unsorted);
+    int parsed = 0;
+    for (const QFileInfo &info : files) {
+        if (!ZRXMLLoader::loadDocument(info).isNull())
+            ++parsed;
+    }
+    const Timing timing = stopwatch.elapsed();
+    *documents = parsed;
+    return timing;
+}
+
+/** The full load of a registry over the directory; the registry is freed afterwards, untimed. */
+Timing timeRegistryLoad(const QDir &directory, int *products)
+{
+    const Stopwatch stopwatch;
+    auto *registry = new DirectoryRegistry(directory);
+    const Timing timing = stopwatch.elapsed();
+    *products = int(registry->allProducts().size());
+    delete registry;
+    return timing;
+}
+
+void warmPageCache(const QDir &directory)
+{
+    const QFileInfoList files = directory.entryInfoList({ QStringLiteral("*.xml") }, QDir::Files, QDir::Unsorted);
+    for (const QFileInfo &info : files) {
+        QFile file(info.absoluteFilePath());
+        if (file.open(QIODevice::ReadOnly))
+            file.readAll();
+    }
+}
+
+struct Memory
+{
+    qint64 residentBytes = 0;
+    qint64 heapBytes = 0;
+};
+
+Memory currentMemory()
+{
+    Memory memory;
+    QFile statm(QStringLiteral("/proc/self/statm"));
+    if (statm.open(QIODevice::ReadOnly)) {
+        const QList<QByteArray> fields = statm.readAll().split(' ');
+        if (fields.size() > 1)
+            memory.residentBytes = fields.at(1).toLongLong() * sysconf(_SC_PAGESIZE);
+    }
+    memory.heapBytes = qint64(mallinfo2().uordblks);
+    return memory;
+}
+
+/**
+ * Child mode: warm up on a small catalogue of its own (code pages, key tables, static strings), then
+ * report the memory added by loading @p directory and keeping the registry.
+ */
+int memoryChild(const QString &directory, const QString &warmDirectory)
+{
+    {
+        const DirectoryRegistry warm { QDir(warmDirectory) };
+    }
+    malloc_trim(0);
+    const Memory before = currentMemory();
+    const DirectoryRegistry registry { QDir(directory) };
+    const Memory after = currentMemory();
+    out << "memory " << registry.allProducts().size() << ' ' << (after.residentBytes - before.residentBytes) << ' '
+        << (after.heapBytes - before.heapBytes) << Qt::endl;
+    return 0;
+}
+
+/**
+ * The heap that the parts of a description keep, per product: every part is built once more from
+ * the same document and kept, and the heap in use is read around each construction. A part's
+ * temporaries are freed before the second reading, so they do not count.
+ */
+int memoryBreakdown(const QDir &directory)
+{
+    struct Part
+    {
+        const char *name;
+        qint64 bytes = 0;
+    };
+    Part whole { "whole description" };
+    Part defaults { "default templates" };
+    Part surroundings { "surroundings" };
+    Part abilities { "editor abilities" };
+    Part preview { "3D preview" };
+    Part classification { "classification" };
+    // Kept until the end, so that what they hold stays allocated; std::list does not move them.
+    std::list<ZRProductTypeDescription> descriptions;
+    std::list<ZRDefaultTemplateMap> defaultMaps;
+    std::list<ZRSurroundingDescriptionList> surroundingLists;
+    std::list<ZRProductEditorAbilities> abilityObjects;
+    std::list<ZRPreview3DDescription> previews;
+    std::list<ZRProductClassification> classifications;
+    qint64 templateEntries = 0;
+
+    const auto measure = [](Part &part, auto build) {
+        const qint64 before = currentMemory().heapBytes;
+        build();
+        part.bytes += currentMemory().heapBytes - before;
+    };
+    const QFileInfoList files = directory.entryInfoList({ QStringLiteral("*.xml") }, QDir::Files, QDir::Unsorted);
+    qint64 xmlBytes = 0;
+    for (const QFileInfo &file : files) {
+        xmlBytes += file.size();
+        const QDomElement product = ZRXMLLoader::loadDocumentElement(file).firstChildElement(QStringLiteral("product"));
+        const ZRProductType type(product.attribute(QStringLiteral("name")));
+        measure(whole, [&] { descriptions.emplace_back(product); });
+        measure(defaults, [&] { defaultMaps.emplace_back(product.firstChildElement(QStringLiteral("defaults"))); });
+        measure(surroundings, [&] { surroundingLists.emplace_back(type, product); });
+        measure(abilities,
+            [&] { abilityObjects.emplace_back(product.firstChildElement(QStringLiteral("editorAbilities"))); });
+        measure(preview, [&] { previews.emplace_back(product); });
+        measure(classification, [&] { classifications.emplace_back(product); });
+        templateEntries += defaultMaps.back().size();
+    }
+    if (files.isEmpty())
+        return 1;
+    const auto perProduct = [&files](qint64 bytes) { return QString::number(double(bytes) / files.size(), 'f', 0); };
+    out << "Heap kept per product, " << files.size() << " products of " << perProduct(xmlBytes)
+        << " bytes of XML each:" << Qt::endl;
+    qint64 parts = 0;
+    for (const Part *part : { &defaults, &surroundings, &abilities, &preview, &classification }) {
+        out << "  " << part->name << ": " << perProduct(part->bytes) << " bytes" << Qt::endl;
+        parts += part->bytes;
+    }
+    out << "  everything else: " << perProduct(whole.bytes - parts) << " bytes" << Qt::endl
+        << "  " << whole.name << ": " << perProduct(whole.bytes) << " bytes" << Qt::endl
+        << "  default template entries: " << perProduct(templateEntries) << " per product, "
+        << QString::number(double(defaults.bytes) / double(qMax<qint64>(1, templateEntries)), 'f', 1) << " bytes each"
+        << Qt::endl;
+    return 0;
+}
+
+struct SizeResult
+{
+    int files = 0;
+    qint64 bytes = 0;
+    Timing dom;
+    Timing loader;
+    Timing registry;
+    double ratio = 0;
+    double cpuRatio = 0;
+    double loaderRatio = 0;
+    qint64 residentBytes = -1;
+    qint64 heapBytes = -1;
+};
+
+bool measureMemory(const QString &directory, const QString &warmDirectory, SizeResult *result)
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(),
+        { QStringLiteral("--memory-child"), directory, QStringLiteral("--warm-dir"), warmDirectory });
+    if (!child.waitForFinished(-1) || child.exitCode() != 0)
+        return false;
+    const QList<QByteArray> fields = child.readAllStandardOutput().trimmed().split(' ');
+    if (fields.size() != 4 || fields.at(0) != "memory")
+        return false;
+    result->residentBytes = fields.at(2).toLongLong();
+    result->heapBytes = fields.at(3).toLongLong();
+    return true;
+}
+
+QString megabytes(qint64 bytes)
+{
+    return QString::number(double(bytes) / 1e6, 'f', 1);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Catalogue load against the bare DOM parse of the same files."));
+    parser.addHelpOption();
+    const QCommandLineOption dirOption(QStringLiteral("dir"), QStringLiteral("Where the catalogues are generated."),
+        QStringLiteral("dir"), QDir::temp().filePath(QStringLiteral("zrbench-catalogues")));
+    const QCommandLineOption sizesOption(QStringLiteral("sizes"), QStringLiteral("Catalogue sizes, comma-separated."),
+        QStringLiteral("list"), QStringLiteral("200,2000,20000"));
+    const QCommandLineOption repeatOption(
+        QStringLiteral("repeat"), QStringLiteral("Timed runs per size."), QStringLiteral("n"), QStringLiteral("5"));
+    const QCommandLineOption memoryChildOption(QStringLiteral("memory-child"),
+        QStringLiteral("Internal: report the memory kept by loading one directory."), QStringLiteral("dir"));
+    const QCommandLineOption warmDirOption(
+        QStringLiteral("warm-dir"), QStringLiteral("Internal: the warm-up catalogue."), QStringLiteral("dir"));
+    const QCommandLineOption singleOption(QStringLiteral("single"),
+        QStringLiteral("One pass of \"dom\", \"loader\" or \"registry\" over the first size, for profilers."),
+        QStringLiteral("pass"));
+    const QCommandLineOption breakdownOption(QStringLiteral("memory-breakdown"),
+        QStringLiteral("The heap kept by each part of a description, for the first size."));
+    parser.addOptions(
+        { dirOption, sizesOption, repeatOption, memoryChildOption, warmDirOption, singleOption, breakdownOption });
+    parser.process(app);
+
+    if (parser.isSet(memoryChildOption))
+        return memoryChild(parser.value(memoryChildOption), parser.value(warmDirOption));
+
+    const QDir root(parser.value(dirOption));
+    const int repeat = qMax(1, parser.value(repeatOption).toInt());
+    QList<int> sizes;
+    for (const QString &size : parser.value(sizesOption).split(QLatin1Char(','), Qt::SkipEmptyParts))
+        sizes.append(size.toInt());
+
+    if (parser.isSet(breakdownOption) && !sizes.isEmpty()) {
+        const auto catalogue = CatalogueGenerator::ensureCatalogue(
+            root.filePath(QStringLiteral("n%1").arg(sizes.first())), sizes.first());
+        return memoryBreakdown(QDir(catalogue.directory));
+    }
+    if (parser.isSet(singleOption) && !sizes.isEmpty()) {
+        const auto catalogue = CatalogueGenerator::ensureCatalogue(
+            root.filePath(QStringLiteral("n%1").arg(sizes.first())), sizes.first());
+        int count = 0;
+        const QString pass = parser.value(singleOption);
+        const QDir directory(catalogue.directory);
+        const Timing timing = pass == QLatin1String("dom") ? timeDomParse(directory, &count)
+            : pass == QLatin1String("loader")              ? timeLoaderParse(directory, &count)
+                                                           : timeRegistryLoad(directory, &count);
+        out << parser.value(singleOption) << ": " << count << " files in " << timing.wallMs << " ms" << Qt::endl;
+        return count == sizes.first() ? 0 : 1;
+    }
+
+    const CatalogueGenerator::Catalogue warm
+        = CatalogueGenerator::ensureCatalogue(root.filePath(QStringLiteral("warm")), 20);
+    QList<SizeResult> results;
+    for (const int size : std::as_const(sizes)) {
+        const CatalogueGenerator::Catalogue catalogue
+            = CatalogueGenerator::ensureCatalogue(root.filePath(QStringLiteral("n%1").arg(size)), size);
+        if (catalogue.files != size) {
+            out << "could not generate " << size << " files under " << catalogue.directory << Qt::endl;
+            return 1;
+        }
+        const QDir directory(catalogue.directory);
+        warmPageCache(directory);
+
+        QList<double> domWall, domCpu, loaderWall, loaderCpu, registryWall, registryCpu, ratios, cpuRatios,
+            loaderRatios;
+        for (int run = 0; run < repeat; ++run) {
+            int documents = 0;
+            int loaded = 0;
+            int products = 0;
+            Timing dom;
+            Timing loader;
+            Timing registry;
+            // Rotate the order so that a drift of the machine load weighs on all passes alike.
+            for (int pass = 0; pass < 3; ++pass) {
+                switch ((run + pass) % 3) {
+                case 0:
+                    dom = timeDomParse(directory, &documents);
+                    break;
+                case 1:
+                    loader = timeLoaderParse(directory, &loaded);
+                    break;
+                default:
+                    registry = timeRegistryLoad(directory, &products);
+                    break;
+                }
+            }
+            if (documents != size || loaded != size || products != size) {
+                out << "parsed " << documents << " and loaded " << loaded << " documents and " << products
+                    << " products of " << size << Qt::endl;
+                return 1;
+            }
+            domWall.append(dom.wallMs);
+            domCpu.append(dom.cpuMs);
+            loaderWall.append(loader.wallMs);
+            loaderCpu.append(loader.cpuMs);
+            registryWall.append(registry.wallMs);
+            registryCpu.append(registry.cpuMs);
+            ratios.append(registry.wallMs / dom.wallMs);
+            cpuRatios.append(registry.cpuMs / dom.cpuMs);
+            loaderRatios.append(loader.wallMs / dom.wallMs);
+            out << QStringLiteral("  n=%1 run %2: wall dom %3 ms, loader %4 ms, registry %5 ms, ratio %6; cpu ratio %7")
+                       .arg(size)
+                       .arg(run + 1)
+                       .arg(dom.wallMs, 0, 'f', 1)
+                       .arg(loader.wallMs, 0, 'f', 1)
+                       .arg(registry.wallMs, 0, 'f', 1)
+                       .arg(registry.wallMs / dom.wallMs, 0, 'f', 3)
+                       .arg(registry.cpuMs / dom.cpuMs, 0, 'f', 3)
+                << Qt::endl;
+        }
+
+        SizeResult result;
+        result.files = catalogue.files;
+        result.bytes = catalogue.bytes;
+        result.dom = { median(domWall), median(domCpu) };
+        result.loader = { median(loaderWall), median(loaderCpu) };
+        result.registry = { median(registryWall), median(registryCpu) };
+        result.ratio = median(ratios);
+        result.cpuRatio = median(cpuRatios);
+        result.loaderRatio = median(loaderRatios);
+        if (!measureMemory(catalogue.directory, warm.directory, &result))
+            out << "  memory of n=" << size << " could not be measured" << Qt::endl;
+        results.append(result);
+    }
+
+    out << Qt::endl
+        << QStringLiteral("%1 runs per size, medians; load average %2").arg(repeat).arg([] {
+               QFile loadavg(QStringLiteral("/proc/loadavg"));
+               return loadavg.open(QIODevice::ReadOnly) ? QString::fromLatin1(loadavg.readAll().trimmed()) : QString();
+           }())
+        << Qt::endl
+        << "| files | XML MB | DOM parse ms | loader ms | registry load ms | loader / DOM | registry / DOM | "
+           "CPU: DOM ms | CPU: registry ms | CPU: registry / DOM | RSS added MB | RSS per 1000 products MB | "
+           "heap kept MB | RSS / XML size |"
+        << Qt::endl
+        << "|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|---:|" << Qt::endl;
+    const auto number = [](double value, int decimals) { return QString::number(value, 'f', decimals); };
+    for (const SizeResult &result : std::as_const(results)) {
+        const double perThousand = double(result.residentBytes) * 1000.0 / result.files;
+        out << "| " << result.files << " | " << megabytes(result.bytes) << " | " << number(result.dom.wallMs, 1)
+            << " | " << number(result.loader.wallMs, 1) << " | " << number(result.registry.wallMs, 1) << " | "
+            << number(result.loaderRatio, 3) << " | " << number(result.ratio, 3) << " | " << number(result.dom.cpuMs, 1)
+            << " | " << number(result.registry.cpuMs, 1) << " | " << number(result.cpuRatio, 3) << " | "
+            << megabytes(result.residentBytes) << " | " << megabytes(qint64(perThousand)) << " | "
+            << megabytes(result.heapBytes) << " | " << number(double(result.residentBytes) / double(result.bytes), 3)
+            << " |" << Qt::endl;
+    }
+    for (qsizetype i = 1; i < results.size(); ++i) {
+        const SizeResult &small = results.at(i - 1);
+        const SizeResult &large = results.at(i);
+        out << QStringLiteral("scaling %1 -> %2 files (x%3): registry x%4 (CPU x%5), DOM x%6 (CPU x%7)")
+                   .arg(small.files)
+                   .arg(large.files)
+                   .arg(double(large.files) / small.files, 0, 'f', 1)
+                   .arg(large.registry.wallMs / small.registry.wallMs, 0, 'f', 2)
+                   .arg(large.registry.cpuMs / small.registry.cpuMs, 0, 'f', 2)
+                   .arg(large.dom.wallMs / small.dom.wallMs, 0, 'f', 2)
+                   .arg(large.dom.cpuMs / small.dom.cpuMs, 0, 'f', 2)
+            << Qt::endl;
+    }
+    return 0;
+}
