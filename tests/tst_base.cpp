@@ -11,6 +11,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <cmath>
+
 namespace {
 QDomElement parse(const QString &xml)
 {
@@ -65,11 +67,15 @@ private slots:
     void intAttribute_data();
     void intAttribute();
     void geometry();
+    void decimalAttribute_data();
+    void decimalAttribute();
     void buildDomElement();
     void productTypeAsHashKey();
     void pageContextMatching_data();
     void pageContextMatching();
     void articleVariants();
+    void articleVariantsText_data();
+    void articleVariantsText();
     void checkerRegistryMask();
     void initializerOrder();
     void libraryRegistersItsInitializerOnLoad();
@@ -141,6 +147,31 @@ void tst_Base::geometry()
     QCOMPARE(distance.unit().value(), ZRDistanceUnitTenthMM);
 }
 
+void tst_Base::decimalAttribute_data()
+{
+    QTest::addColumn<QString>("text");
+    // Plain decimals take a shortcut of their own; every text must read as QString::toDouble() reads it.
+    for (const char *text : { "2100", "-3.5", "4.75", " 6.5 ", "0.1", "-0", "-0.0", "007.50", "32.25", "0.3", "0.7",
+             "4.35", "123.456", "123456789012345", "1234567890123456", "0.000000000000001", "9007199254740993", "1e3",
+             ".5", "5.", "+2", "1,5", "1.2.3", "-", "", "abc", "0x10", "inf", "1.7976931348623157e309" })
+        QTest::newRow(text) << QString::fromLatin1(text);
+}
+
+void tst_Base::decimalAttribute()
+{
+    QFETCH(QString, text);
+    QDomElement element = parse(QStringLiteral("<e/>"));
+    element.setAttribute(QStringLiteral("d"), text);
+    bool ok = false;
+    const double parsed = text.trimmed().toDouble(&ok);
+    const double expected = ok ? parsed : -99.0;
+    const double read
+        = ZRXMLParser::readDistance(element, QStringLiteral("d"), -99.0, ZRDistanceUnit(ZRDistanceUnitTenthMM)).value();
+    // Bit for bit, so that -0 and the last bit of a rounding count.
+    QCOMPARE(qFloatDistance(read, expected), quint64(0));
+    QCOMPARE(std::signbit(read), std::signbit(expected));
+}
+
 void tst_Base::buildDomElement()
 {
     QDomDocument document;
@@ -201,6 +232,26 @@ void tst_Base::articleVariants()
     QCOMPARE(white, ZRArticleVariants(QStringLiteral("size=large,color=white")));
     QVERIFY(white != ZRArticleVariants(QStringLiteral("color=black;size=large")));
     QCOMPARE(white.toString(), QStringLiteral("color=white;size=large"));
+}
+
+void tst_Base::articleVariantsText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("empty pairs skipped") << QStringLiteral("a=1;;b=2,") << QStringLiteral("a=1;b=2");
+    QTest::newRow("option without choice") << QStringLiteral("flag") << QStringLiteral("flag=");
+    QTest::newRow("pair without option skipped") << QStringLiteral(" = x ; b = 2 ") << QStringLiteral("b=2");
+    QTest::newRow("choice keeps later equals signs") << QStringLiteral("a=1=2") << QStringLiteral("a=1=2");
+    QTest::newRow("only separators") << QStringLiteral(";,") << QString();
+}
+
+void tst_Base::articleVariantsText()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, expected);
+    const ZRArticleVariants variants(text);
+    QVERIFY(variants.isValid());
+    QCOMPARE(variants.toString(), expected);
 }
 
 void tst_Base::checkerRegistryMask()

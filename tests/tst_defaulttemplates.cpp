@@ -175,6 +175,9 @@ void tst_DefaultTemplates::removeUmlauts_data()
     QTest::newRow("capital folds to lower case") << "Über" << "ueber";
     QTest::newRow("all of them") << "ÄÖÜäöüß" << "aeoeueaeoeuess";
     QTest::newRow("other letters untouched") << "Café Ñ Ø" << "Café Ñ Ø";
+    QTest::newRow("capital sharp s folds to sharp s") << "GROẞ" << "GROss";
+    QTest::newRow("plain text") << "L-2-Fotos-quer" << "L-2-Fotos-quer";
+    QTest::newRow("umlaut after plain text") << "L-Größe-Mischung" << "L-Groesse-Mischung";
     QTest::newRow("empty") << "" << "";
     // clang-format on
 }

@@ -53,11 +53,15 @@ public:
     E decodeCSV(const QString &text) const
     {
         Underlying result = 0;
-        for (QStringView part : QStringView(text).split(u',')) {
-            const auto found = m_stringToValue.constFind(part.trimmed().toString().toLower());
-            result |= static_cast<Underlying>(found != m_stringToValue.constEnd() ? *found : m_unknownValue);
+        qsizetype start = 0;
+        for (;;) {
+            const qsizetype comma = text.indexOf(u',', start);
+            const qsizetype end = comma < 0 ? text.size() : comma;
+            result |= static_cast<Underlying>(valueOfKey(QStringView(text).sliced(start, end - start)));
+            if (comma < 0)
+                return static_cast<E>(result);
+            start = comma + 1;
         }
-        return static_cast<E>(result);
     }
 
     /** The key of every set bit, lowest first; empty for 0 and for any value with the sign bit set. */
@@ -88,15 +92,23 @@ public:
     QSet<E> splitToBits(E value) const
     {
         QSet<E> result;
+        forEachBit(value, [&result](E flag) { result.insert(flag); });
+        return result;
+    }
+
+    /** Calls @p function with each single-bit value contained in @p value, lowest bit first; none for
+     * values below 1 (signed). splitToBits() without building a set. */
+    template<typename Function>
+    static void forEachBit(E value, Function &&function)
+    {
         if (static_cast<Signed>(value) < 1)
-            return result;
+            return;
         const Unsigned bits = static_cast<Unsigned>(value);
         for (int bit = 0; bit < bitCount; ++bit) {
             const Unsigned flag = Unsigned(1) << bit;
             if (bits & flag)
-                result.insert(static_cast<E>(flag));
+                function(static_cast<E>(flag));
         }
-        return result;
     }
 
     /** The key registered for exactly @p value (no bit splitting), or unknownText(). */
@@ -111,6 +123,17 @@ public:
     void setUnknownValue(E value) { m_unknownValue = value; }
 
 private:
+    /** The value of one key of a list, blanks around it ignored; unknownValue() when it is not in the table. */
+    E valueOfKey(QStringView part) const
+    {
+        const QStringView key = part.trimmed();
+        // Decoding runs for every enumerated attribute of every description: the key is looked up in
+        // place, and only a key that is not yet in lower case is copied to be converted.
+        const QString lowerKey = QString::fromRawData(key.data(), key.size()).toLower();
+        const auto found = m_stringToValue.constFind(lowerKey);
+        return found != m_stringToValue.constEnd() ? *found : m_unknownValue;
+    }
+
     QHash<QString, E> m_stringToValue;
     QHash<E, QString> m_valueToString;
     QString m_unknownText;

@@ -1,19 +1,25 @@
 #include "ZRArticleVariants.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 ZRArticleVariants::ZRArticleVariants(const QString &text)
     : m_valid(!text.isEmpty())
 {
-    static const QRegularExpression separators(QStringLiteral("[;,]"));
-    const QStringList pairs = text.split(separators, Qt::SkipEmptyParts);
-    for (const QString &pair : pairs) {
-        const qsizetype equals = pair.indexOf(QLatin1Char('='));
-        const QString option = (equals < 0 ? pair : pair.left(equals)).trimmed();
+    // Pairs are separated by ';' or ','; empty pairs are skipped. Every surrounding of every product
+    // description is read through here, most of them with an empty text.
+    const QStringView all(text);
+    qsizetype start = 0;
+    while (start < all.size()) {
+        qsizetype end = start;
+        while (end < all.size() && all.at(end) != u';' && all.at(end) != u',')
+            ++end;
+        const QStringView pair = all.sliced(start, end - start);
+        start = end + 1;
+        const qsizetype equals = pair.indexOf(u'=');
+        const QStringView option = (equals < 0 ? pair : pair.first(equals)).trimmed();
         if (option.isEmpty())
             continue;
-        m_choices.insert(option, equals < 0 ? QString() : pair.mid(equals + 1).trimmed());
+        m_choices.insert(option.toString(), equals < 0 ? QString() : pair.sliced(equals + 1).trimmed().toString());
     }
 }
 

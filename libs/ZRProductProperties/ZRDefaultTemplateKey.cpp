@@ -18,8 +18,10 @@ ZRDefaultTemplateKey &ZRDefaultTemplateKey::operator=(const ZRDefaultTemplateKey
 
 bool ZRDefaultTemplateKey::operator==(const ZRDefaultTemplateKey &other) const
 {
-    return m_defaultTemplateType == other.m_defaultTemplateType && m_pageContext == other.m_pageContext
-        && m_pageNumber == other.m_pageNumber && m_scenePageCount == other.m_scenePageCount;
+    // Keys that share a hash differ mostly in page number or scene page count, which are not hashed:
+    // those are compared first.
+    return m_pageNumber == other.m_pageNumber && m_scenePageCount == other.m_scenePageCount
+        && m_defaultTemplateType == other.m_defaultTemplateType && m_pageContext == other.m_pageContext;
 }
 
 size_t qHash(const ZRDefaultTemplateKey &key, size_t seed) noexcept

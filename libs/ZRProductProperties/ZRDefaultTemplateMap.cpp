@@ -5,7 +5,8 @@
 
 #include <QDomElement>
 #include <QList>
-#include <QStringList>
+#include <QStringTokenizer>
+#include <QStringView>
 
 #include <algorithm>
 
@@ -27,10 +28,16 @@ void ZRDefaultTemplateMap::applyDefaultsNode(const QDomElement &element)
         const int scenePageCount = ZRXMLParser::intAttribute(node, QStringLiteral("scenePageCount"), -1);
 
         // "templates" is the short form "background,layout"
-        const QStringList templates = ZRXMLParser::attribute(node, QStringLiteral("templates"), QString(), true)
-                                          .split(QLatin1Char(','), Qt::SkipEmptyParts);
-        const QString layoutDefault = templates.size() == 2 ? templates.at(1) : QString();
-        const QString backgroundDefault = templates.isEmpty() ? QStringLiteral("201") : templates.at(0);
+        const QString shortForm = ZRXMLParser::attribute(node, QStringLiteral("templates"), QString(), true);
+        QStringView parts[2];
+        int partCount = 0;
+        for (const QStringView part : qTokenize(shortForm, u',', Qt::SkipEmptyParts)) {
+            if (partCount < 2)
+                parts[partCount] = part;
+            ++partCount;
+        }
+        const QString layoutDefault = partCount == 2 ? parts[1].toString() : QString();
+        const QString backgroundDefault = partCount == 0 ? QStringLiteral("201") : parts[0].toString();
 
         const QString layout
             = removeUmlauts(ZRXMLParser::attribute(node, QStringLiteral("layout"), layoutDefault, true).trimmed());
@@ -38,18 +45,14 @@ void ZRDefaultTemplateMap::applyDefaultsNode(const QDomElement &element)
             ZRXMLParser::attribute(node, QStringLiteral("background"), backgroundDefault, true).trimmed());
         const QString design = removeUmlauts(ZRXMLParser::attribute(node, QStringLiteral("design"), QString(), true));
 
-        QList<ZRPageAlignmentEnum> alignmentFlags
-            = alignment.enumToStringTable()->splitToBits(alignment.value()).values();
-        std::sort(alignmentFlags.begin(), alignmentFlags.end());
-
         for (const ZRPageType &pageType : pageTypes) {
-            for (const ZRPageAlignmentEnum flag : std::as_const(alignmentFlags)) {
+            ZRPageAlignment::Table::forEachBit(alignment.value(), [&](ZRPageAlignmentEnum flag) {
                 const ZRPageContext context(pageType, flag);
                 insert(ZRDefaultTemplateKey(context, ZRDefaultTemplateLayout, pageNumber, scenePageCount), layout);
                 insert(
                     ZRDefaultTemplateKey(context, ZRDefaultTemplateBackground, pageNumber, scenePageCount), background);
                 insert(ZRDefaultTemplateKey(context, ZRDefaultTemplateDesign, pageNumber, scenePageCount), design);
-            }
+            });
         }
     }
 }
@@ -69,10 +72,38 @@ QString ZRDefaultTemplateMap::findTemplate(const ZRDefaultTemplateKey &key) cons
 
 QString ZRDefaultTemplateMap::removeUmlauts(const QString &text) const
 {
-    QString result = text;
-    result.replace(QStringLiteral("\u00e4"), QStringLiteral("ae"), Qt::CaseInsensitive);
-    result.replace(QStringLiteral("\u00f6"), QStringLiteral("oe"), Qt::CaseInsensitive);
-    result.replace(QStringLiteral("\u00fc"), QStringLiteral("ue"), Qt::CaseInsensitive);
-    result.replace(QStringLiteral("\u00df"), QStringLiteral("ss"), Qt::CaseInsensitive);
+    // Characters match as Qt matches them ignoring case, by their case folding, so capitals (the
+    // capital sharp s too) are replaced by the same lower-case pairs. No character below U+00C0 folds
+    // to one of them.
+    const auto replacement = [](QChar c) {
+        if (c.unicode() < 0xC0)
+            return QLatin1String();
+        switch (c.toCaseFolded().unicode()) {
+        case 0x00E4:
+            return QLatin1String("ae");
+        case 0x00F6:
+            return QLatin1String("oe");
+        case 0x00FC:
+            return QLatin1String("ue");
+        case 0x00DF:
+            return QLatin1String("ss");
+        default:
+            return QLatin1String();
+        }
+    };
+    const auto first = std::find_if(text.cbegin(), text.cend(), [&](QChar c) { return !replacement(c).isEmpty(); });
+    // Most names have none and are returned without a copy.
+    if (first == text.cend())
+        return text;
+    QString result;
+    result.reserve(text.size() + 8);
+    result.append(QStringView(text.cbegin(), first));
+    for (auto it = first; it != text.cend(); ++it) {
+        const QLatin1String pair = replacement(*it);
+        if (pair.isEmpty())
+            result.append(*it);
+        else
+            result.append(pair);
+    }
     return result;
 }

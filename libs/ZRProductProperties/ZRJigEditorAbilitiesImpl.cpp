@@ -16,12 +16,11 @@ ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl(const QDomElement &element)
          child = child.nextSiblingElement(categoriesTag)) {
         const ZRPageType pageTypes(ZRXMLParser::attribute(child, QStringLiteral("pageType"), QString(), true));
         const QList<QString> keys = child.text().split(QLatin1Char(','), Qt::SkipEmptyParts, Qt::CaseSensitive);
-        const auto bits = pageTypes.enumToStringTable()->splitToBits(pageTypes.value());
-        for (const ZRPageTypeEnum bit : bits) {
+        ZRPageType::Table::forEachBit(pageTypes.value(), [this, &keys](ZRPageTypeEnum bit) {
             const ZRPageType single(bit);
             if (single.isValid())
                 m_categories.insert(single, keys);
-        }
+        });
     }
 }
 

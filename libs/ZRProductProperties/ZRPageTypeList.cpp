@@ -14,10 +14,17 @@ ZRPageTypeList::ZRPageTypeList(const QList<ZRPageType> &pageTypes)
 
 ZRPageTypeList::ZRPageTypeList(const QString &text)
 {
-    const QStringList parts = text.split(QLatin1Char(','));
-    m_pageTypes.reserve(parts.size());
-    for (const QString &part : parts)
-        m_pageTypes.append(ZRPageType(part.trimmed()));
+    m_pageTypes.reserve(text.count(u',') + 1);
+    qsizetype start = 0;
+    for (;;) {
+        const qsizetype comma = text.indexOf(u',', start);
+        const QStringView part = QStringView(text).sliced(start, (comma < 0 ? text.size() : comma) - start).trimmed();
+        // Only decoded, never kept: the key is handed over in place instead of as a copy.
+        m_pageTypes.append(ZRPageType(QString::fromRawData(part.data(), part.size())));
+        if (comma < 0)
+            break;
+        start = comma + 1;
+    }
 }
 
 ZRPageTypeList::ZRPageTypeList(const ZRPageTypeList &other) = default;

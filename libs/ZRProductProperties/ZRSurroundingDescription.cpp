@@ -89,9 +89,9 @@ bool ZRSurroundingDescription::isSuitable(const ZRSurroundingKey &key) const
 QList<QRect> ZRSurroundingDescription::parseMask(const QString &text)
 {
     QList<QRect> result;
-    const QStringList parts = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    for (const QString &part : parts) {
-        const QStringList fields = part.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QList<QStringView> parts = QStringView(text).split(u';', Qt::SkipEmptyParts);
+    for (const QStringView part : parts) {
+        const QList<QStringView> fields = part.split(u' ', Qt::SkipEmptyParts);
         if (fields.size() != 4)
             break;
         result.append(QRect(

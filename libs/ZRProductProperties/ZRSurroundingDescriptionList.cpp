@@ -12,12 +12,21 @@ ZRSurroundingDescriptionList::ZRSurroundingDescriptionList(const ZRProductType &
 {
     const QString surroundingsTag = QStringLiteral("surroundings");
     const QString surroundingTag = QStringLiteral("surrounding");
-    for (QDomElement group = element.firstChildElement(surroundingsTag); !group.isNull();
-         group = group.nextSiblingElement(surroundingsTag)) {
-        for (QDomElement surrounding = group.firstChildElement(surroundingTag); !surrounding.isNull();
-             surrounding = surrounding.nextSiblingElement(surroundingTag))
-            append(ZRSurroundingDescription(productType, surrounding));
-    }
+    const auto forEachSurrounding = [&](auto function) {
+        for (QDomElement group = element.firstChildElement(surroundingsTag); !group.isNull();
+             group = group.nextSiblingElement(surroundingsTag)) {
+            for (QDomElement surrounding = group.firstChildElement(surroundingTag); !surrounding.isNull();
+                 surrounding = surrounding.nextSiblingElement(surroundingTag))
+                function(surrounding);
+        }
+    };
+    // Descriptions are large and every product keeps its list: counted first, they are stored without
+    // growing the list, so neither moves nor unused capacity.
+    qsizetype count = 0;
+    forEachSurrounding([&count](const QDomElement &) { ++count; });
+    reserve(count);
+    forEachSurrounding(
+        [&](const QDomElement &surrounding) { append(ZRSurroundingDescription(productType, surrounding)); });
 }
 
 ZRSurroundingDescription ZRSurroundingDescriptionList::findDescription(const ZRSurroundingKey &key) const

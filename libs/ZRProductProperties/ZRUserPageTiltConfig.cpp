@@ -14,8 +14,9 @@ ZRUserPageTiltConfig::~ZRUserPageTiltConfig() = default;
 QList<int> ZRUserPageTiltConfig::decodeIntList(const QString &text)
 {
     QList<int> result;
-    const QStringList pieces = text.simplified().split(QLatin1Char(','));
-    for (const QString &piece : pieces) {
+    const QString simplified = text.simplified();
+    const QList<QStringView> pieces = QStringView(simplified).split(u',');
+    for (const QStringView piece : pieces) {
         bool ok = false;
         const int value = piece.toInt(&ok, 10);
         if (ok)
