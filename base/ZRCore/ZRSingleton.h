@@ -3,6 +3,8 @@
 
 #include "ZRLocks.h"
 
+#include <atomic>
+
 /**
  * The lazily created, process-wide instance of @p T, made with T's default constructor on the first
  * call of instance() from any thread and never destroyed.
@@ -12,7 +14,8 @@
  * it; otherwise every shared library that calls instance() would make its own T.
  *
  * The lock is checked for reading first, so that once T exists callers only share the read lock; the
- * check is repeated under the write lock so that exactly one T is made.
+ * check is repeated under the write lock so that exactly one T is made. Once T exists, instance()
+ * returns it after one atomic load, without taking the lock.
  */
 template<typename T>
 class ZRSingleton
@@ -31,17 +34,21 @@ template<typename T>
 T *ZRSingleton<T>::instance()
 {
     static ZRReadWriteLock lock;
-    static T *myInstance = nullptr;
+    static std::atomic<T *> myInstance { nullptr };
 
+    // The instance never changes once it is made, and it is published with a release store: a
+    // caller whose acquire load sees it also sees everything its constructor wrote, and needs no lock.
+    if (T *existing = myInstance.load(std::memory_order_acquire))
+        return existing;
     {
         ZRReadLocker locker(&lock);
-        if (myInstance)
-            return myInstance;
+        if (T *existing = myInstance.load(std::memory_order_acquire))
+            return existing;
     }
     ZRWriteLocker locker(&lock);
-    if (!myInstance)
-        myInstance = new T();
-    return myInstance;
+    if (!myInstance.load(std::memory_order_acquire))
+        myInstance.store(new T(), std::memory_order_release);
+    return myInstance.load(std::memory_order_acquire);
 }
 
 #endif
