@@ -55,14 +55,21 @@ inline bool writeFile(const QString &dir, const QString &name, const QByteArray 
     return writeFile(QDir(dir).filePath(name), content);
 }
 
+/** The `value()` of every item of @p items as int, in their order. */
+template<typename Container> QList<int> values(const Container &items)
+{
+    QList<int> result;
+    for (const auto &item : items)
+        result.append(int(item.value()));
+    return result;
+}
+
 /** The `value()` of every item of @p items as int, in ascending order, for comparing unordered sets. */
 template<typename Container> QList<int> sortedValues(const Container &items)
 {
-    QList<int> values;
-    for (const auto &item : items)
-        values.append(int(item.value()));
-    std::sort(values.begin(), values.end());
-    return values;
+    QList<int> sorted = values(items);
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
 }
 
 /** The `name()` of every item of @p items, sorted, for comparing unordered collections. */

@@ -112,71 +112,39 @@ void tst_ZRProducts::commandLine_data()
     QTest::addColumn<QString>("err");
 
     const QString usage = QStringLiteral("Try 'zrproducts --help'");
-    QTest::newRow("version") << QStringList { "--version" } << 0
-                             << QStringLiteral("^zrproducts " ZRPRODUCTPROPERTIES_VERSION_STRING "\n$") << QString();
-    QTest::newRow("help names the commands")
-        << QStringList { "--help" } << 0 << QStringLiteral("check \\[DIR\\.\\.\\.\\](.|\n)*--products <dir>")
-        << QString();
+    const QString badCount = QStringLiteral("not a number of pages from 0 to 9999: ");
+    // clang-format off
+    QTest::newRow("version") << QStringList { "--version" } << 0 << "^zrproducts " ZRPRODUCTPROPERTIES_VERSION_STRING "\n$" << QString();
+    QTest::newRow("help names the commands") << QStringList { "--help" } << 0 << "check \\[DIR\\.\\.\\.\\](.|\n)*--products <dir>" << QString();
     QTest::newRow("list text") << QStringList { "list" } << 0
-                               << QStringLiteral(
-                                      "^PRODUCT +CLASS +BINDING +PAGES +VALID\n"
-                                      "(.|\n)*walldecor_canvas_60x40 +walldecor +- +1 +yes\n"
-                                      "(.|\n)*\nLegacy products\n(.|\n)*card_postcard_easy_a6_2018 +card +single"
-                                      " +1 +yes +card_folded_vario_a6 +RewriteOneSidedEasyToTwoSidedVario")
-                               << QString();
+        << "^PRODUCT +CLASS +BINDING +PAGES +VALID\n(.|\n)*walldecor_canvas_60x40 +walldecor +- +1 +yes\n(.|\n)*\nLegacy products\n"
+           "(.|\n)*card_postcard_easy_a6_2018 +card +single +1 +yes +card_folded_vario_a6 +RewriteOneSidedEasyToTwoSidedVario" << QString();
     QTest::newRow("show text") << QStringList { "show", "photobook_hardcover_a4_landscape" } << 0
-                               << QStringLiteral(
-                                      "Has text on spine: +yes\n(.|\n)*Safety margins:\n  All: +50\n  Covers: "
-                                      "+170\n  Fold: +60\n(.|\n)*- Jig: +frame\n +Name: +Rahmen\n +Enabled: +no")
-                               << QString();
-    QTest::newRow("show in English")
-        << QStringList { "show", "walldecor_canvas_60x40", "--lang", "en" } << 0
-        << QStringLiteral("- Jig: +frame\n +Name: +Frame\n(.|\n)*- Jig: +wallholder\n +Name: +Wall mount\n"
-                          "(.|\n)*\n  Description: +Photo canvas\n")
+        << "Has text on spine: +yes\n(.|\n)*Safety margins:\n  All: +50\n  Covers: +170\n  Fold: +60\n(.|\n)*- Jig: +frame\n +Name: +Rahmen\n +Enabled: +no"
         << QString();
-    QTest::newRow("show in German, the source language")
-        << QStringList { "show", "walldecor_canvas_60x40", "--lang", "de" } << 0
-        << QStringLiteral("- Jig: +frame\n +Name: +Rahmen\n(.|\n)*\n  Description: +Fotoleinwand\n") << QString();
+    QTest::newRow("show in English") << QStringList { "show", "walldecor_canvas_60x40", "--lang", "en" } << 0
+        << "- Jig: +frame\n +Name: +Frame\n(.|\n)*- Jig: +wallholder\n +Name: +Wall mount\n(.|\n)*\n  Description: +Photo canvas\n" << QString();
     QTest::newRow("show legacy product") << QStringList { "show", "card_postcard_easy_a6_2018" } << 0
-                                         << QStringLiteral("Legacy: +yes\n(.|\n)*Replaced by: +card_folded_vario_a6\n")
-                                         << QString();
+        << "Legacy: +yes\n(.|\n)*Replaced by: +card_folded_vario_a6\n" << QString();
     QTest::newRow("pages text") << QStringList { "pages", "calendar_wall_a3_portrait", "2" } << 0
-                                << QStringLiteral("^INDEX +PAGE TYPE +ALIGNMENT +MARGIN +LAYOUT +BACKGROUND +DESIGN\n"
-                                                  "0 +title +left +50 +Kalender-Titel-1-Foto +201 +-\n"
-                                                  "1 +photo_page +right +50 +Kalender-1-Foto-Vollflaeche +201 +-\n"
-                                                  "2 +grid_page +left +50 +Kalendarium-Monat-Zeile +201 +-\n$")
-                                << QString();
-    QTest::newRow("sample catalogue is clean")
-        << QStringList { "check" } << 0 << QStringLiteral("^12 files checked in 3 directories: no problems\n$")
-        << QString();
-    QTest::newRow("library warnings on a broken catalogue")
-        << QStringList { "list", "--products", brokenProducts } << 0
-        << QStringLiteral("\nbroken_no_binding +card +- +2 +no\n")
-        << QStringLiteral("^(zrproducts: warning: (parse error|could not open .*/not_xml\\.xml)\n){2}$");
-    QTest::newRow("unknown product") << QStringList { "show", "no_such_product" } << 1 << QString()
-                                     << QStringLiteral("^zrproducts: unknown product \"no_such_product\"\n$");
-    QTest::newRow("unknown product pages")
-        << QStringList { "pages", "no_such_product", "3" } << 1 << QString() << QStringLiteral("unknown product");
-    QTest::newRow("unknown command") << QStringList { "frobnicate" } << 2 << QString()
-                                     << QStringLiteral("unknown command \"frobnicate\"\n") + usage;
-    QTest::newRow("unknown option") << QStringList { "list", "--colour" } << 2 << QString()
-                                    << QStringLiteral("Unknown option 'colour'");
-    QTest::newRow("no command") << QStringList {} << 2 << QString() << QStringLiteral("no command given");
+        << "^INDEX +PAGE TYPE +ALIGNMENT +MARGIN +LAYOUT +BACKGROUND +DESIGN\n0 +title +left +50 +Kalender-Titel-1-Foto +201 +-\n"
+           "1 +photo_page +right +50 +Kalender-1-Foto-Vollflaeche +201 +-\n2 +grid_page +left +50 +Kalendarium-Monat-Zeile +201 +-\n$" << QString();
+    QTest::newRow("sample catalogue is clean") << QStringList { "check" } << 0 << "^12 files checked in 3 directories: no problems\n$" << QString();
+    QTest::newRow("library warnings on a broken catalogue") << QStringList { "list", "--products", brokenProducts } << 0
+        << "\nbroken_no_binding +card +- +2 +no\n" << "^(zrproducts: warning: (parse error|could not open .*/not_xml\\.xml)\n){2}$";
+    QTest::newRow("unknown product") << QStringList { "show", "no_such_product" } << 1 << QString() << "^zrproducts: unknown product \"no_such_product\"\n$";
+    QTest::newRow("unknown command") << QStringList { "frobnicate" } << 2 << QString() << "unknown command \"frobnicate\"\n" + usage;
+    QTest::newRow("unknown option") << QStringList { "list", "--colour" } << 2 << QString() << "Unknown option 'colour'";
+    QTest::newRow("no command") << QStringList {} << 2 << QString() << "no command given";
     QTest::newRow("show without name") << QStringList { "show" } << 2 << QString() << usage;
-    QTest::newRow("pages with a count that is no number") << QStringList { "pages", "calendar_wall_a3_portrait",
-        "many" } << 2 << QString() << QStringLiteral("not a number of pages from 0 to 9999: many");
-    QTest::newRow("pages with too large a count") << QStringList { "pages", "calendar_wall_a3_portrait",
-        "4294967295" } << 2 << QString() << QStringLiteral("not a number of pages from 0 to 9999: 4294967295");
-    QTest::newRow("three product directories") << QStringList { "list", "--products", brokenProducts, "--products",
-        brokenProducts, "--products", brokenInstalled }
-                                               << 2 << QString() << QStringLiteral("at most twice");
-    QTest::newRow("missing products directory")
-        << QStringList { "list", "--products", "/nonexistent/products" } << 2 << QString()
-        << QStringLiteral("no such directory: /nonexistent/products");
-    QTest::newRow("check a missing directory")
-        << QStringList { "check", "/nonexistent/products" } << 2 << QString() << QStringLiteral("no such directory");
-    QTest::newRow("unknown language") << QStringList { "categories", "--lang", "xx" } << 2 << QString()
-                                      << QStringLiteral("unknown language: xx");
+    QTest::newRow("count that is no number") << QStringList { "pages", "calendar_wall_a3_portrait", "many" } << 2 << QString() << badCount + "many";
+    QTest::newRow("count too large") << QStringList { "pages", "calendar_wall_a3_portrait", "4294967295" } << 2 << QString() << badCount + "4294967295";
+    QTest::newRow("three product directories")
+        << QStringList { "list", "--products", brokenProducts, "--products", brokenProducts, "--products", brokenInstalled } << 2 << QString() << "at most twice";
+    QTest::newRow("missing products directory") << QStringList { "list", "--products", "/nonexistent/products" } << 2 << QString()
+                                                << "no such directory: /nonexistent/products";
+    QTest::newRow("unknown language") << QStringList { "categories", "--lang", "xx" } << 2 << QString() << "unknown language: xx";
+    // clang-format on
 }
 
 void tst_ZRProducts::commandLine()
@@ -220,62 +188,26 @@ void tst_ZRProducts::show_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QJsonValue>("expected");
 
-    QTest::newRow("hard cover: binding") << "photobook_hardcover_a4_landscape"
-                                         << "binding" << QJsonValue("hardcover");
+    const QString hardCover = QStringLiteral("photobook_hardcover_a4_landscape");
+    const QString wallCalendar = QStringLiteral("calendar_wall_a3_portrait");
+    // clang-format off
     // The back cover takes the place of one of the 24 content pages.
-    QTest::newRow("hard cover: expanded pages") << "photobook_hardcover_a4_landscape"
-                                                << "pages/expandedCount" << QJsonValue(3 + 23);
-    QTest::newRow("hard cover: spot colours")
-        << "photobook_hardcover_a4_landscape"
-        << "spotColors" << QJsonValue(QJsonArray { "gold", "silver", "rosegold" });
-    QTest::newRow("hard cover: page number font") << "photobook_hardcover_a4_landscape"
-                                                  << "pageNumbers/fontSize" << QJsonValue(20);
-    QTest::newRow("hard cover: bound border") << "photobook_hardcover_a4_landscape"
-                                              << "surroundings/5/pageNr" << QJsonValue(3);
-    QTest::newRow("hard cover: spine fold") << "photobook_hardcover_a4_landscape"
-                                            << "surroundings/1/spineFoldWidth" << QJsonValue(80);
-    QTest::newRow("hard cover: background synonym")
-        << "photobook_hardcover_a4_landscape"
-        << "editorAbilities/jigs/0/categories/1/categories"
-        << QJsonValue(QJsonArray { "Reisen", "Hochzeit", "Familie", "Farben" });
-    QTest::newRow("soft cover: no text on spine") << "photobook_softcover_a5_portrait"
-                                                  << "hasTextOnSpine" << QJsonValue(false);
-    QTest::newRow("soft cover: not convertable") << "photobook_softcover_a5_portrait"
-                                                 << "editorAbilities/convertable" << QJsonValue(false);
-    QTest::newRow("wall calendar: tilt") << "calendar_wall_a3_portrait"
-                                         << "tiltAngle" << QJsonValue(90);
-    QTest::newRow("wall calendar: spirals") << "calendar_wall_a3_portrait"
-                                            << "surroundings/0/spirals/count" << QJsonValue(33);
-    QTest::newRow("wall calendar: loop picture found") << "calendar_wall_a3_portrait"
-                                                       << "surroundings/0/spirals/loopPicture" << QJsonValue("54x150");
-    QTest::newRow("wall calendar: hole") << "calendar_wall_a3_portrait"
-                                         << "surroundings/0/hole/diameter" << QJsonValue(60);
-    QTest::newRow("wall calendar: date range") << "calendar_wall_a3_portrait"
-                                               << "editorAbilities/dateRange/maximumFromCurrentYear" << QJsonValue(2);
-    QTest::newRow("desk calendar: cover margin -1 is none")
-        << "calendar_desk_a5_landscape"
-        << "safetyMargins/covers" << QJsonValue(QJsonValue::Undefined);
-    QTest::newRow("folding card: vario card") << "card_folded_vario_a6"
-                                              << "varioCard" << QJsonValue(true);
-    QTest::newRow("postcard: easy card") << "card_postcard_single_a6"
-                                         << "easyCard" << QJsonValue(true);
-    QTest::newRow("canvas: valid without binding") << "walldecor_canvas_60x40"
-                                                   << "valid" << QJsonValue(true);
-    QTest::newRow("canvas: classification") << "walldecor_canvas_60x40"
-                                            << "classification/group" << QJsonValue("Leinwand");
-    QTest::newRow("mug: no border with grey effect") << "mug_classic_330ml"
-                                                     << "canHaveBorder" << QJsonValue(false);
-    QTest::newRow("mug: preview address") << "mug_classic_330ml"
-                                          << "preview3D/address"
-                                          << QJsonValue("vxs://localhost/threejs/productpreview/index.html?mesh=mugs/"
-                                                        "classic_330ml.glb&flipY=true&cx=0&cy=6.5&cz=24&ax=0&ay=4.75"
-                                                        "&az=0&title=Produktvorschau");
-    QTest::newRow("advent calendar: extra pages") << "adventcalendar_a3_doors"
-                                                  << "extraProductionPageCount" << QJsonValue(24 + 1);
-    QTest::newRow("advent calendar: barcodes") << "adventcalendar_a3_doors"
-                                               << "barcodes/1/symbology" << QJsonValue("code128");
-    QTest::newRow("legacy: strategy") << "card_postcard_easy_a6_2018"
-                                      << "conversionStrategy" << QJsonValue("RewriteOneSidedEasyToTwoSidedVario");
+    QTest::newRow("hard cover: expanded pages") << hardCover << "pages/expandedCount" << QJsonValue(3 + 23);
+    QTest::newRow("hard cover: spot colours") << hardCover << "spotColors" << QJsonValue(QJsonArray { "gold", "silver", "rosegold" });
+    QTest::newRow("hard cover: spine fold") << hardCover << "surroundings/1/spineFoldWidth" << QJsonValue(80);
+    QTest::newRow("hard cover: background synonym") << hardCover << "editorAbilities/jigs/0/categories/1/categories"
+                                                    << QJsonValue(QJsonArray { "Reisen", "Hochzeit", "Familie", "Farben" });
+    QTest::newRow("wall calendar: loop picture found") << wallCalendar << "surroundings/0/spirals/loopPicture" << QJsonValue("54x150");
+    QTest::newRow("wall calendar: hole") << wallCalendar << "surroundings/0/hole/diameter" << QJsonValue(60);
+    QTest::newRow("desk calendar: cover margin -1 is none") << "calendar_desk_a5_landscape" << "safetyMargins/covers" << QJsonValue(QJsonValue::Undefined);
+    QTest::newRow("canvas: classification") << "walldecor_canvas_60x40" << "classification/group" << QJsonValue("Leinwand");
+    QTest::newRow("mug: preview address") << "mug_classic_330ml" << "preview3D/address"
+        << QJsonValue("vxs://localhost/threejs/productpreview/index.html?mesh=mugs/classic_330ml.glb&flipY=true&cx=0&cy=6.5&cz=24&ax=0&ay=4.75&az=0"
+                      "&title=Produktvorschau");
+    QTest::newRow("advent calendar: extra pages") << "adventcalendar_a3_doors" << "extraProductionPageCount" << QJsonValue(24 + 1);
+    QTest::newRow("advent calendar: barcodes") << "adventcalendar_a3_doors" << "barcodes/1/symbology" << QJsonValue("code128");
+    QTest::newRow("legacy: strategy") << "card_postcard_easy_a6_2018" << "conversionStrategy" << QJsonValue("RewriteOneSidedEasyToTwoSidedVario");
+    // clang-format on
 }
 
 void tst_ZRProducts::show()
@@ -297,22 +229,17 @@ void tst_ZRProducts::pages_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QJsonValue>("expected");
 
-    QTest::newRow("calendar: sheets for every content page")
-        << "calendar_wall_a3_portrait" << 24 << 1 + 24 << "24/pageType" << QJsonValue("grid_page");
-    QTest::newRow("calendar: title default")
-        << "calendar_wall_a3_portrait" << 24 << 25 << "0/layout" << QJsonValue("Kalender-Titel-1-Foto");
-    QTest::newRow("hard cover: back cover takes a content page")
-        << "photobook_hardcover_a4_landscape" << 10 << 3 + 9 << "11/pageType" << QJsonValue("content");
-    QTest::newRow("hard cover: spine in the middle")
-        << "photobook_hardcover_a4_landscape" << 10 << 12 << "1/alignment" << QJsonValue("center");
-    QTest::newRow("hard cover: cover margin")
-        << "photobook_hardcover_a4_landscape" << 10 << 12 << "2/safetyMargin" << QJsonValue(170);
-    QTest::newRow("hard cover: design by page number")
-        << "photobook_hardcover_a4_landscape" << 10 << 12 << "2/design" << QJsonValue("Design-Klassisch-Weiss");
-    QTest::newRow("advent calendar: always 24 doors")
-        << "adventcalendar_a3_doors" << 0 << 1 + 1 + 24 << "25/alignment" << QJsonValue("center");
-    QTest::newRow("desk calendar: grid first, vertical")
-        << "calendar_desk_a5_landscape" << 2 << 1 + 2 << "2/alignment" << QJsonValue("top");
+    const QString hardCover = QStringLiteral("photobook_hardcover_a4_landscape");
+    // clang-format off
+    QTest::newRow("calendar: sheets for every content page") << "calendar_wall_a3_portrait" << 24 << 1 + 24 << "24/pageType" << QJsonValue("grid_page");
+    QTest::newRow("calendar: title default") << "calendar_wall_a3_portrait" << 24 << 25 << "0/layout" << QJsonValue("Kalender-Titel-1-Foto");
+    QTest::newRow("hard cover: back cover takes a content page") << hardCover << 10 << 3 + 9 << "11/pageType" << QJsonValue("content");
+    QTest::newRow("hard cover: spine in the middle") << hardCover << 10 << 12 << "1/alignment" << QJsonValue("center");
+    QTest::newRow("hard cover: cover margin") << hardCover << 10 << 12 << "2/safetyMargin" << QJsonValue(170);
+    QTest::newRow("hard cover: design by page number") << hardCover << 10 << 12 << "2/design" << QJsonValue("Design-Klassisch-Weiss");
+    QTest::newRow("advent calendar: always 24 doors") << "adventcalendar_a3_doors" << 0 << 1 + 1 + 24 << "25/alignment" << QJsonValue("center");
+    QTest::newRow("desk calendar: grid first, vertical") << "calendar_desk_a5_landscape" << 2 << 1 + 2 << "2/alignment" << QJsonValue("top");
+    // clang-format on
 }
 
 void tst_ZRProducts::pages()
@@ -337,18 +264,15 @@ void tst_ZRProducts::categories_data()
     QTest::addColumn<QString>("visibleName");
     QTest::addColumn<QJsonValue>("color");
 
-    QTest::newRow("special, English") << QStringList { "--lang", "en" } << "Papierkorb"
-                                      << "Recycle bin" << QJsonValue(QJsonValue::Null);
-    QTest::newRow("show-all keyed by the library's English") << QStringList { "--lang", "en" } << "Show all"
-                                                             << "Show all" << QJsonValue(QJsonValue::Null);
-    QTest::newRow("special, German") << QStringList { "--lang", "de" } << "Papierkorb"
-                                     << "Papierkorb" << QJsonValue(QJsonValue::Null);
-    QTest::newRow("colour of colors.xml") << QStringList { "--lang", "en" } << "Weiß"
-                                          << "White" << QJsonValue("#ffffff");
-    QTest::newRow("named metallic variant") << QStringList { "--lang", "en", "Gold_metallic" } << "Gold_metallic"
-                                            << "Gold" << QJsonValue("#c9a646");
-    QTest::newRow("named unknown") << QStringList { "--lang", "de", "Quatsch" } << "Quatsch"
-                                   << "Quatsch" << QJsonValue(QJsonValue::Null);
+    const QJsonValue none(QJsonValue::Null);
+    // clang-format off
+    QTest::newRow("special, English") << QStringList { "--lang", "en" } << "Papierkorb" << "Recycle bin" << none;
+    QTest::newRow("show-all keyed by the library's English") << QStringList { "--lang", "en" } << "Show all" << "Show all" << none;
+    QTest::newRow("special, German") << QStringList { "--lang", "de" } << "Papierkorb" << "Papierkorb" << none;
+    QTest::newRow("colour of colors.xml") << QStringList { "--lang", "en" } << "Weiß" << "White" << QJsonValue("#ffffff");
+    QTest::newRow("named metallic variant") << QStringList { "--lang", "en", "Gold_metallic" } << "Gold_metallic" << "Gold" << QJsonValue("#c9a646");
+    QTest::newRow("named unknown") << QStringList { "--lang", "de", "Quatsch" } << "Quatsch" << "Quatsch" << none;
+    // clang-format on
 }
 
 void tst_ZRProducts::categories()
@@ -375,50 +299,37 @@ void tst_ZRProducts::checkFindsEveryFault_data()
 {
     QTest::addColumn<QString>("line");
 
+    const QString keys = QStringLiteral("/unknown_keys\\.xml: ");
+    const QString illegal = QStringLiteral(
+        ": library warning while expanding the pages: Illegaler Seitentyp in der Produktbeschreibung\\.$");
+    // clang-format off
     QTest::newRow("not XML") << "/not_xml\\.xml: does not load: could not open .*/not_xml\\.xml$";
-    QTest::newRow("no product element")
-        << "/no_product\\.xml: no \"product\" element below the document element \"products\"$";
+    QTest::newRow("no product element") << "/no_product\\.xml: no \"product\" element below the document element \"products\"$";
     QTest::newRow("no name") << "/no_name\\.xml: the \"product\" element has no \"name\"$";
     QTest::newRow("invalid") << "/no_binding\\.xml: product \"broken_no_binding\" is invalid: it has no binding";
-    QTest::newRow("duplicate in one directory")
-        << "/duplicate_[ab]\\.xml: product type \"broken_duplicate\" is described twice; the registry keeps the one "
-           "in .*/duplicate_[ab]\\.xml \\(the later file in the directory listing wins\\)$";
-    QTest::newRow("first directory wins")
-        << "installed/unknown_jig_again\\.xml: product type \"broken_unknown_jig\" is described twice; the registry "
-           "keeps the one in .*products/unknown_jig\\.xml \\(an earlier directory wins\\)$";
-    QTest::newRow("unknown jig")
-        << "/unknown_jig\\.xml: unknown jig type \"stickers\" in /products/product/editorAbilities/jigs/stickers$";
-    QTest::newRow("unknown surrounding type") << "/unknown_surrounding\\.xml: unknown surrounding type \"RIBBON\" in "
-                                                 "/products/product/surroundings/surrounding\\[2\\]/@type$";
-    QTest::newRow("unknown page type")
-        << "/unknown_page_type\\.xml: unknown page type \"leaflet\" in /products/product/pages$";
-    QTest::newRow("unknown page type is 0")
-        << "/unknown_page_type\\.xml: library warning while expanding the pages: Illegaler Seitentyp in der "
-           "Produktbeschreibung\\.$";
-    QTest::newRow("empty page type is 0")
-        << "/zero_page_type\\.xml: library warning while expanding the pages: Illegaler Seitentyp in der "
-           "Produktbeschreibung\\.$";
+    QTest::newRow("duplicate in one directory") << "/duplicate_[ab]\\.xml: product type \"broken_duplicate\" is described twice; the registry keeps the one "
+                                                   "in .*/duplicate_[ab]\\.xml \\(the later file in the directory listing wins\\)$";
+    QTest::newRow("first directory wins") << "installed/unknown_jig_again\\.xml: product type \"broken_unknown_jig\" is described twice; the registry "
+                                             "keeps the one in .*products/unknown_jig\\.xml \\(an earlier directory wins\\)$";
+    QTest::newRow("unknown jig") << "/unknown_jig\\.xml: unknown jig type \"stickers\" in /products/product/editorAbilities/jigs/stickers$";
+    QTest::newRow("unknown surrounding type") << "/unknown_surrounding\\.xml: unknown surrounding type \"RIBBON\" in /products/product/surroundings/surrounding\\[2\\]/@type$";
+    QTest::newRow("unknown page type") << "/unknown_page_type\\.xml: unknown page type \"leaflet\" in /products/product/pages$";
+    QTest::newRow("unknown page type is 0") << "/unknown_page_type\\.xml" + illegal;
+    QTest::newRow("empty page type is 0") << "/zero_page_type\\.xml" + illegal;
     QTest::newRow("bad redirect") << "/bad_redirect\\.xml: library warning while reading: parse error$";
-    const QString keys = QStringLiteral("/unknown_keys\\.xml: ");
     QTest::newRow("article class") << keys + "unknown article class \"sticker\" in /products/product/@class$";
     QTest::newRow("image effect") << keys + "unknown image effect \"sepia\" in /products/product/@imageFXs$";
-    QTest::newRow("product alignment") << keys
-            + "unknown product alignment \"diagonal\" in /products/product/@productAlignment$";
-    QTest::newRow("conversion strategy") << keys
-            + "unknown conversion strategy \"RewriteMagic\" in /products/product/@conversionStrategy$";
+    QTest::newRow("product alignment") << keys + "unknown product alignment \"diagonal\" in /products/product/@productAlignment$";
+    QTest::newRow("conversion strategy") << keys + "unknown conversion strategy \"RewriteMagic\" in /products/product/@conversionStrategy$";
     QTest::newRow("product spot colour") << keys + "unknown spot colour \"platinum\" in /products/product/@spotColor$";
     QTest::newRow("empty product spot colour") << keys + "empty spot colour in /products/product/@spotColor$";
-    QTest::newRow("surrounding alignment")
-        << keys + "unknown alignment \"outside\" in /products/product/surroundings/surrounding/@alignment$";
-    QTest::newRow("surrounding spot colour")
-        << keys + "unknown spot colour \"copper\" in /products/product/surroundings/surrounding/@spotColor$";
-    QTest::newRow("default page type") << keys
-            + "unknown page type \"inlay\" in /products/product/defaults/default/@pageType$";
-    QTest::newRow("page naming style") << keys
-            + "unknown page naming style \"leporello\" in /products/product/editorAbilities/pageNamingStyle$";
-    QTest::newRow("category page type") << keys
-            + "unknown page type \"envelope\" in /products/product/editorAbilities/jigs/content/categories/@pageType$";
+    QTest::newRow("surrounding alignment") << keys + "unknown alignment \"outside\" in /products/product/surroundings/surrounding/@alignment$";
+    QTest::newRow("surrounding spot colour") << keys + "unknown spot colour \"copper\" in /products/product/surroundings/surrounding/@spotColor$";
+    QTest::newRow("default page type") << keys + "unknown page type \"inlay\" in /products/product/defaults/default/@pageType$";
+    QTest::newRow("page naming style") << keys + "unknown page naming style \"leporello\" in /products/product/editorAbilities/pageNamingStyle$";
+    QTest::newRow("category page type") << keys + "unknown page type \"envelope\" in /products/product/editorAbilities/jigs/content/categories/@pageType$";
     QTest::newRow("summary") << "^13 files checked in 2 directories: 23 problems$";
+    // clang-format on
 }
 
 void tst_ZRProducts::checkFindsEveryFault()
