@@ -73,15 +73,12 @@ void tst_EnumTable::decodeCSV_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("expected");
     QTest::newRow("empty") << QString() << 0;
-    QTest::newRow("comma between blanks") << QStringLiteral(" , ") << 0;
-    QTest::newRow("capitals and blanks") << QStringLiteral("  LEFT , Right ")
-                                         << int(ZRPageAlignmentLeft | ZRPageAlignmentRight);
-    QTest::newRow("unknown key alone") << QStringLiteral("sideways") << 0;
-    QTest::newRow("known and unknown") << QStringLiteral("top,sideways") << int(ZRPageAlignmentTop);
-    QTest::newRow("empty parts between keys")
-        << QStringLiteral("top,,bottom,") << int(ZRPageAlignmentTop | ZRPageAlignmentBottom);
-    QTest::newRow("all") << QStringLiteral("all") << 0x7F;
-    QTest::newRow("default surrounding alignments") << QStringLiteral("left,right,top,bottom,center,middle") << 0x77;
+    QTest::newRow("comma between blanks") << " , " << 0;
+    QTest::newRow("capitals and blanks") << "  LEFT , Right " << int(ZRPageAlignmentLeft | ZRPageAlignmentRight);
+    QTest::newRow("known and unknown") << "top,sideways" << int(ZRPageAlignmentTop);
+    QTest::newRow("empty parts between keys") << "top,,bottom," << int(ZRPageAlignmentTop | ZRPageAlignmentBottom);
+    QTest::newRow("all") << "all" << 0x7F;
+    QTest::newRow("default surrounding alignments") << "left,right,top,bottom,center,middle" << 0x77;
 }
 
 void tst_EnumTable::decodeCSV()
@@ -96,13 +93,14 @@ void tst_EnumTable::encodeCSV_data()
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QStringList>("list");
-    QTest::newRow("zero gives the unknown text") << 0 << QStringLiteral("UNKOWN") << QStringList();
-    QTest::newRow("two bits, lower first")
-        << (2 | 1) << QStringLiteral("book, calendar") << QStringList { "book", "calendar" };
-    QTest::newRow("bit without key") << (128 | 1) << QStringLiteral("book, UNKOWN") << QStringList { "book", "UNKOWN" };
-    QTest::newRow("bit 21 is none") << 0x200000 << QStringLiteral("none") << QStringList { "none" };
-    QTest::newRow("bit 31 alone") << int(0x80000000u) << QStringLiteral("UNKOWN") << QStringList();
-    QTest::newRow("bit 31 with others") << int(0x80000001u) << QStringLiteral("UNKOWN") << QStringList();
+    // clang-format off
+    QTest::newRow("zero gives the unknown text") << 0 << "UNKOWN" << QStringList();
+    QTest::newRow("two bits, lower first") << (2 | 1) << "book, calendar" << QStringList { "book", "calendar" };
+    QTest::newRow("bit without key") << (128 | 1) << "book, UNKOWN" << QStringList { "book", "UNKOWN" };
+    QTest::newRow("bit 21 is none") << 0x200000 << "none" << QStringList { "none" };
+    QTest::newRow("bit 31 alone") << int(0x80000000u) << "UNKOWN" << QStringList();
+    QTest::newRow("bit 31 with others") << int(0x80000001u) << "UNKOWN" << QStringList();
+    // clang-format on
 }
 
 void tst_EnumTable::encodeCSV()
