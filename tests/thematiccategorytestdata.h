@@ -1,9 +1,6 @@
 #ifndef THEMATICCATEGORYTESTDATA_H
 #define THEMATICCATEGORYTESTDATA_H
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QList>
 #include <QPair>
 #include <QString>
@@ -23,18 +20,7 @@ inline QByteArray tsDocument(const QString &language, const Messages &messages)
         xml += QStringLiteral("<message><source>") + message.first + QStringLiteral("</source><translation>")
             + message.second + QStringLiteral("</translation></message>\n");
     }
-    xml += QStringLiteral("</context>\n</TS>\n");
-    return xml.toUtf8();
-}
-
-/** Writes @p content to @p name inside @p dir, creating subdirectories; false when that fails. */
-inline bool writeFile(const QString &dir, const QString &name, const QByteArray &content)
-{
-    const QString path = QDir(dir).filePath(name);
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
-        return false;
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    return (xml + QStringLiteral("</context>\n</TS>\n")).toUtf8();
 }
 
 } // namespace ThematicCategoryTestData

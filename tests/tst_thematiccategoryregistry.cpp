@@ -1,5 +1,6 @@
 #include "ZRDirectoryConfig.h"
 #include "ZRLocaleAndTranslationManager.h"
+#include "ZRTestSupport.h"
 #include "ZRThematicCategoryRegistry.h"
 #include "thematiccategorytestdata.h"
 
@@ -7,7 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace ThematicCategoryTestData;
+using namespace Qt::StringLiterals;
+using ThematicCategoryTestData::tsDocument;
 
 namespace {
 ZRThematicCategoryRegistry *registry()
@@ -27,9 +29,7 @@ private slots:
     void keysStartAtOne();
     void sameCategory_data();
     void sameCategory();
-    void aliasTakesOverInternalName();
-    void unknownKeysHaveNoNames();
-    void emptyNameHasKeyOfItsOwn();
+    void namesOfKeys();
     void setVisibleName();
 
 private:
@@ -39,24 +39,19 @@ private:
 void tst_ThematicCategoryRegistry::initTestCase()
 {
     QVERIFY(m_dir.isValid());
-    QVERIFY(writeFile(m_dir.path(), QStringLiteral("categories_en_test.ts"),
-        tsDocument(QStringLiteral("en"),
-            {
-                { QStringLiteral("Farben"), QStringLiteral("Colours") },
-                { QStringLiteral("Farbtöne"), QStringLiteral("colours") },
-                { QStringLiteral("InterneRahmen"), QStringLiteral("Frames") },
-                { QStringLiteral("Rahmen"), QStringLiteral("Frames") },
-                { QStringLiteral("Papierkorb"), QStringLiteral("Bin") },
-            })));
+    QVERIFY(ZRTest::writeFile(m_dir.path(), u"categories_en_test.ts"_s,
+        tsDocument(u"en"_s,
+            { { u"Farben"_s, u"Colours"_s }, { u"Farbtöne"_s, u"colours"_s }, { u"InterneRahmen"_s, u"Frames"_s },
+                { u"Rahmen"_s, u"Frames"_s }, { u"Papierkorb"_s, u"Bin"_s } })));
     ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThematicTranslationsDirectories({ m_dir.path() });
-    ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setLocale(QLocale(QStringLiteral("en_GB")));
+    ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setLocale(QLocale(u"en_GB"_s));
 }
 
 void tst_ThematicCategoryRegistry::keysStartAtOne()
 {
-    QCOMPARE(registry()->key(QStringLiteral("Erster")), 1);
-    QCOMPARE(registry()->key(QStringLiteral("Zweiter")), 2);
-    QCOMPARE(registry()->key(QStringLiteral("ERSTER")), 1);
+    QCOMPARE(registry()->key(u"Erster"_s), 1);
+    QCOMPARE(registry()->key(u"Zweiter"_s), 2);
+    QCOMPARE(registry()->key(u"ERSTER"_s), 1);
     QCOMPARE(registry()->keys(), QList<int>({ 1, 2 }));
 }
 
@@ -66,20 +61,12 @@ void tst_ThematicCategoryRegistry::sameCategory_data()
     QTest::addColumn<QString>("second");
     QTest::addColumn<bool>("same");
 
-    QTest::newRow("letter case") << "Farben"
-                                 << "FARBEN" << true;
-    QTest::newRow("translated form") << "Farben"
-                                     << "Colours" << true;
-    QTest::newRow("translated form in other case") << "Farben"
-                                                   << "cOLOURS" << true;
-    QTest::newRow("same translation") << "Farben"
-                                      << "Farbtöne" << true;
-    QTest::newRow("internal frames never aliased") << "InterneRahmen"
-                                                   << "Rahmen" << false;
-    QTest::newRow("different names") << "Gold"
-                                     << "Silber" << false;
-    QTest::newRow("untranslated names") << "Urlaub"
-                                        << "urlaub" << true;
+    QTest::newRow("letter case") << u"Urlaub"_s << u"URLAUB"_s << true;
+    QTest::newRow("translated form") << u"Farben"_s << u"Colours"_s << true;
+    QTest::newRow("translated form in other case") << u"Farben"_s << u"cOLOURS"_s << true;
+    QTest::newRow("same translation") << u"Farben"_s << u"Farbtöne"_s << true;
+    QTest::newRow("internal frames never aliased") << u"InterneRahmen"_s << u"Rahmen"_s << false;
+    QTest::newRow("different names") << u"Gold"_s << u"Silber"_s << false;
 }
 
 void tst_ThematicCategoryRegistry::sameCategory()
@@ -97,49 +84,39 @@ void tst_ThematicCategoryRegistry::sameCategory()
     QCOMPARE(registry()->keys().size(), same ? known : known + 1);
 }
 
-void tst_ThematicCategoryRegistry::aliasTakesOverInternalName()
+void tst_ThematicCategoryRegistry::namesOfKeys()
 {
     // "Farbtöne" joined "Farben" through its visible name; the alias was stored as internal name.
-    const int key = registry()->key(QStringLiteral("farben"));
-    QCOMPARE(registry()->internalName(key), QStringLiteral("Farbtöne"));
-    QCOMPARE(registry()->visibleName(key), QStringLiteral("colours"));
-
+    const int colours = registry()->key(u"farben"_s);
+    QCOMPARE(registry()->internalName(colours), u"Farbtöne"_s);
+    QCOMPARE(registry()->visibleName(colours), u"colours"_s);
     // Spellings in another case do not replace the internal name.
-    const int urlaub = registry()->key(QStringLiteral("URLAUB"));
-    QCOMPARE(registry()->internalName(urlaub), QStringLiteral("Urlaub"));
-}
+    QCOMPARE(registry()->internalName(registry()->key(u"urlaub"_s)), u"Urlaub"_s);
 
-void tst_ThematicCategoryRegistry::unknownKeysHaveNoNames()
-{
     QCOMPARE(registry()->internalName(0), QString());
     QCOMPARE(registry()->visibleName(0), QString());
     QCOMPARE(registry()->internalName(100000), QString());
-    QCOMPARE(registry()->visibleName(-1), QString());
-}
 
-void tst_ThematicCategoryRegistry::emptyNameHasKeyOfItsOwn()
-{
-    const int key = registry()->key(QString());
-    QVERIFY(key > 0);
-    QCOMPARE(registry()->key(QStringLiteral("")), key);
-    QCOMPARE(registry()->internalName(key), QString());
-    QVERIFY(registry()->key(QStringLiteral("Noch eins")) != key);
+    const int empty = registry()->key(QString());
+    QVERIFY(empty > 0);
+    QCOMPARE(registry()->key(u""_s), empty);
+    QVERIFY(registry()->key(u"Noch eins"_s) != empty);
 }
 
 void tst_ThematicCategoryRegistry::setVisibleName()
 {
-    const int key = registry()->key(QStringLiteral("Papierkorb"));
-    QCOMPARE(registry()->visibleName(key), QStringLiteral("Bin"));
+    const int key = registry()->key(u"Papierkorb"_s);
+    QCOMPARE(registry()->visibleName(key), u"Bin"_s);
 
-    registry()->setVisibleName(key, QStringLiteral("Trash"));
-    QCOMPARE(registry()->visibleName(key), QStringLiteral("Trash"));
-    QCOMPARE(registry()->internalName(key), QStringLiteral("Papierkorb"));
+    registry()->setVisibleName(key, u"Trash"_s);
+    QCOMPARE(registry()->visibleName(key), u"Trash"_s);
+    QCOMPARE(registry()->internalName(key), u"Papierkorb"_s);
     // The old visible name still finds the category, the new one does not.
-    QCOMPARE(registry()->key(QStringLiteral("bin")), key);
-    QVERIFY(registry()->key(QStringLiteral("Trash")) != key);
+    QCOMPARE(registry()->key(u"bin"_s), key);
+    QVERIFY(registry()->key(u"Trash"_s) != key);
 
     registry()->setVisibleName(key, QString());
-    QCOMPARE(registry()->visibleName(key), QStringLiteral("Bin"));
+    QCOMPARE(registry()->visibleName(key), u"Bin"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_ThematicCategoryRegistry)

@@ -1,5 +1,6 @@
 #include "ZRDirectoryConfig.h"
 #include "ZRLocaleAndTranslationManager.h"
+#include "ZRTestSupport.h"
 #include "ZRThematicCategoryRegistry.h"
 #include "ZRThematicCategoryTranslationRegistry.h"
 #include "thematiccategorytestdata.h"
@@ -46,17 +47,17 @@ private slots:
 void tst_ThematicCategoryRegistryThreads::concurrentLookupsGiveOneKeyPerName()
 {
     QTemporaryDir dir;
-    QVERIFY(dir.isValid());
     Messages messages;
     for (int i = 0; i < sharedNames; i += 10)
         messages.append({ sharedName(i), QStringLiteral("Topic %1").arg(i) });
-    QVERIFY(writeFile(dir.path(), QStringLiteral("threads_en_a.ts"), tsDocument(QStringLiteral("en"), messages)));
+    QVERIFY(
+        ZRTest::writeFile(dir.path(), QStringLiteral("threads_en_a.ts"), tsDocument(QStringLiteral("en"), messages)));
     ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThematicTranslationsDirectories({ dir.path() });
     ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setLocale(QLocale(QStringLiteral("en_GB")));
 
     // Every thread looks up the shared names (half of the threads in capitals, some by their
     // translation), its own names, and translates, while one more thread keeps adding translations.
-    std::vector<QHash<QString, int>> seen(threadCount);
+    std::vector<QList<QPair<QString, int>>> seen(threadCount); // a name and the key of its category
     QSemaphore start;
     std::vector<QThread *> threads;
     for (int t = 0; t < threadCount; ++t) {
@@ -69,14 +70,12 @@ void tst_ThematicCategoryRegistryThreads::concurrentLookupsGiveOneKeyPerName()
                 const int n = (i * (t + 1) * 7919) % sharedNames; // a different order in each thread
                 // Translations match the source's case: only names without translation are spelt in capitals.
                 const QString name = t % 2 && n % 10 ? sharedName(n).toUpper() : sharedName(n);
-                seen[t].insert(sharedName(n), registry->key(name));
-                if (n % 10 == 0 && t % 4 == 0) {
-                    const int key = registry->key(QStringLiteral("Topic %1").arg(n));
-                    seen[t].insert(QStringLiteral("translated %1").arg(n), key);
-                }
+                seen[t].append({ sharedName(n), registry->key(name) });
+                if (n % 10 == 0 && t % 4 == 0) // a translation names the category of its source
+                    seen[t].append({ sharedName(n), registry->key(QStringLiteral("Topic %1").arg(n)) });
                 translations->translate(sharedName(n), british);
                 if (i < ownNames)
-                    seen[t].insert(ownName(t, i), registry->key(ownName(t, i)));
+                    seen[t].append({ ownName(t, i), registry->key(ownName(t, i)) });
             }
         }));
     }
@@ -101,16 +100,11 @@ void tst_ThematicCategoryRegistryThreads::concurrentLookupsGiveOneKeyPerName()
     qDeleteAll(threads);
 
     QHash<QString, int> keyOfName;
-    for (int t = 0; t < threadCount; ++t) {
-        for (auto it = seen[t].cbegin(); it != seen[t].cend(); ++it) {
-            QString name = it.key();
-            if (name.startsWith(QLatin1String("translated ")))
-                name = sharedName(name.mid(11).toInt()); // a translation names the category of its source
+    for (const auto &lookups : seen) {
+        for (const auto &[name, key] : lookups) {
             const auto known = keyOfName.constFind(name);
-            if (known == keyOfName.cend())
-                keyOfName.insert(name, it.value());
-            else
-                QCOMPARE(it.value(), known.value());
+            QCOMPARE(known == keyOfName.cend() ? key : *known, key);
+            keyOfName.insert(name, key);
         }
     }
     const qsizetype names = sharedNames + threadCount * ownNames;

@@ -1,5 +1,6 @@
 #include "ZRDirectoryConfig.h"
 #include "ZRLocaleAndTranslationManager.h"
+#include "ZRTestSupport.h"
 #include "ZRThematicCategoryTranslationRegistry.h"
 #include "thematiccategorytestdata.h"
 
@@ -7,7 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace ThematicCategoryTestData;
+using namespace Qt::StringLiterals;
+using ThematicCategoryTestData::tsDocument;
 
 // The registry is first used after the language was switched during the run: it reads the
 // handed-over document instead of the translation files.
@@ -23,22 +25,17 @@ private slots:
 void tst_ThematicCategoryTranslationLanguageChange::firstUseReadsHandedOverDocument()
 {
     QTemporaryDir dir;
-    QVERIFY(dir.isValid());
-    QVERIFY(writeFile(dir.path(), QStringLiteral("cats_en_a.ts"),
-        tsDocument(QStringLiteral("en"),
-            { { QStringLiteral("Farben"), QStringLiteral("From file") },
-                { QStringLiteral("Papierkorb"), QStringLiteral("Bin") } })));
+    QVERIFY(ZRTest::writeFile(dir.path(), u"cats_en_a.ts"_s,
+        tsDocument(u"en"_s, { { u"Farben"_s, u"From file"_s }, { u"Papierkorb"_s, u"Bin"_s } })));
     ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThematicTranslationsDirectories({ dir.path() });
     ZRLocaleAndTranslationManager *locale = ZRSingleton<ZRLocaleAndTranslationManager>::instance();
-    locale->setLocale(QLocale(QStringLiteral("en_GB")));
+    locale->setLocale(QLocale(u"en_GB"_s));
     locale->setLanguageChanged(true);
-    locale->setThematicTranslations(
-        tsDocument(QStringLiteral("en"), { { QStringLiteral("Farben"), QStringLiteral("From document") } }));
+    locale->setThematicTranslations(tsDocument(u"en"_s, { { u"Farben"_s, u"From document"_s } }));
 
     const auto *registry = ZRSingleton<ZRThematicCategoryTranslationRegistry>::instance();
-    const QLocale british(QStringLiteral("en_GB"));
-    QCOMPARE(registry->translate(QStringLiteral("Farben"), british), QStringLiteral("From document"));
-    QCOMPARE(registry->translate(QStringLiteral("Papierkorb"), british), QStringLiteral("Papierkorb"));
+    QCOMPARE(registry->translate(u"Farben"_s, locale->locale()), u"From document"_s);
+    QCOMPARE(registry->translate(u"Papierkorb"_s, locale->locale()), u"Papierkorb"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_ThematicCategoryTranslationLanguageChange)

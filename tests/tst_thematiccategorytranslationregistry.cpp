@@ -1,14 +1,15 @@
 #include "ZRDirectoryConfig.h"
 #include "ZRLocaleAndTranslationManager.h"
+#include "ZRTestSupport.h"
 #include "ZRThematicCategoryTranslationRegistry.h"
 #include "thematiccategorytestdata.h"
 
-#include <QDomDocument>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace ThematicCategoryTestData;
+using namespace Qt::StringLiterals;
+using ThematicCategoryTestData::tsDocument;
 
 namespace {
 ZRThematicCategoryTranslationRegistry *registry()
@@ -40,11 +41,7 @@ private slots:
 
     void translation_data();
     void translation();
-    void parseXML_data();
-    void parseXML();
-    void addTranslationsMergesEntryByEntry();
-    void languageChangeReadsHandedOverDocument();
-    void unreadableHandedOverDocumentFallsBackToFiles();
+    void languageChange();
 
 private:
     QTemporaryDir m_dir;
@@ -55,7 +52,7 @@ void tst_ThematicCategoryTranslationRegistry::initTestCase()
     QVERIFY(m_dir.isValid());
     const QString dir = m_dir.path();
     // Files are read in name order: a, b, then the country file.
-    QVERIFY(writeFile(dir, QStringLiteral("cats_en_a.ts"),
+    QVERIFY(ZRTest::writeFile(dir, u"cats_en_a.ts"_s,
         "<TS language=\"en\"><context>"
         "<message><source>Farben</source><translation>Colors</translation></message>"
         "<message><source>Papierkorb</source><translation>Bin</translation></message>"
@@ -66,29 +63,28 @@ void tst_ThematicCategoryTranslationRegistry::initTestCase()
         "</context><context>"
         "<message><source>Silber</source><translation>Silver</translation></message>"
         "</context></TS>"));
-    QVERIFY(writeFile(dir, QStringLiteral("cats_en_b.ts"),
-        tsDocument(QStringLiteral("en"),
-            { { QStringLiteral("Papierkorb"), QStringLiteral("Recycle bin") },
-                { QStringLiteral("Effektlack"), QStringLiteral("Effect varnish") } })));
-    QVERIFY(writeFile(dir, QStringLiteral("cats_en_gb.ts"),
-        tsDocument(QStringLiteral("en_GB"),
-            { { QStringLiteral("Farben"), QStringLiteral("Colours") },
-                { QStringLiteral("Favoriten"), QStringLiteral("Favourites") } })));
-    QVERIFY(writeFile(dir, QStringLiteral("sub/deep_en_a.ts"),
-        tsDocument(QStringLiteral("en"), { { QStringLiteral("Mittig"), QStringLiteral("Middle") } })));
+    QVERIFY(ZRTest::writeFile(dir, u"cats_en_b.ts"_s,
+        tsDocument(u"en"_s, { { u"Papierkorb"_s, u"Recycle bin"_s }, { u"Effektlack"_s, u"Effect varnish"_s } })));
+    QVERIFY(ZRTest::writeFile(dir, u"cats_en_gb.ts"_s,
+        tsDocument(u"en_GB"_s, { { u"Farben"_s, u"Colours"_s }, { u"Favoriten"_s, u"Favourites"_s } })));
+    QVERIFY(ZRTest::writeFile(dir, u"sub/deep_en_a.ts"_s, tsDocument(u"en"_s, { { u"Mittig"_s, u"Middle"_s } })));
     // Not matching the English name filter.
-    QVERIFY(writeFile(dir, QStringLiteral("cats_de_a.ts"),
-        tsDocument(QStringLiteral("de"), { { QStringLiteral("Farben"), QStringLiteral("Bunt") } })));
-    QVERIFY(writeFile(dir, QStringLiteral("cats_en.ts"),
-        tsDocument(QStringLiteral("en"), { { QStringLiteral("Grau"), QStringLiteral("Grey") } })));
-    // Broken files: each is reported and the others still load.
-    QVERIFY(writeFile(dir, QStringLiteral("broken_en_root.ts"), "<xliff language=\"en\"><context/></xliff>"));
-    QVERIFY(writeFile(dir, QStringLiteral("broken_en_uncontexted.ts"), "<TS language=\"en\"><message/></TS>"));
-    QVERIFY(writeFile(dir, QStringLiteral("broken_en_unlanguaged.ts"), "<TS><context/></TS>"));
-    QVERIFY(writeFile(dir, QStringLiteral("broken_en_unparsable.ts"), "<TS language=\"en\"><context>"));
+    QVERIFY(ZRTest::writeFile(dir, u"cats_de_a.ts"_s, tsDocument(u"de"_s, { { u"Farben"_s, u"Bunt"_s } })));
+    QVERIFY(ZRTest::writeFile(dir, u"cats_en.ts"_s, tsDocument(u"en"_s, { { u"Grau"_s, u"Grey"_s } })));
+    QVERIFY(ZRTest::writeFile(dir, u"cats_en_c.ts"_s,
+        "<TS language=\"en\"><dependencies/><context><name>x</name>"
+        "<message><source>Rot</source><translation>Red</translation></message></context></TS>"));
+    // Broken files: each is reported, adds nothing, and the others still load.
+    const QByteArray blue = "<message><source>Blau</source><translation>Blue</translation></message>";
+    QVERIFY(ZRTest::writeFile(
+        dir, u"broken_en_root.ts"_s, "<xliff language=\"en\"><context>" + blue + "</context></xliff>"));
+    QVERIFY(ZRTest::writeFile(dir, u"broken_en_uncontexted.ts"_s, "<TS language=\"en\">" + blue + "</TS>"));
+    QVERIFY(ZRTest::writeFile(
+        dir, u"broken_en_unlanguaged.ts"_s, "<TS language=\"\"><context>" + blue + "</context></TS>"));
+    QVERIFY(ZRTest::writeFile(dir, u"broken_en_unparsable.ts"_s, "<TS language=\"en\"><context>" + blue));
 
     ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThematicTranslationsDirectories({ dir });
-    localeManager()->setLocale(QLocale(QStringLiteral("en_GB")));
+    localeManager()->setLocale(QLocale(u"en_GB"_s));
     localeManager()->setLanguageChanged(false);
     expectWarningsOfBrokenFiles();
     QVERIFY(registry());
@@ -100,63 +96,26 @@ void tst_ThematicCategoryTranslationRegistry::translation_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("country table first") << "Farben"
-                                         << "en_GB"
-                                         << "Colours";
-    QTest::newRow("language table") << "Farben"
-                                    << "en_US"
-                                    << "Colors";
-    QTest::newRow("country falls back to language") << "Papierkorb"
-                                                    << "en_GB"
-                                                    << "Recycle bin";
-    QTest::newRow("other country falls back to language") << "Effektlack"
-                                                          << "en_AU"
-                                                          << "Effect varnish";
-    QTest::newRow("later file wins") << "Papierkorb"
-                                     << "en_US"
-                                     << "Recycle bin";
-    QTest::newRow("stored source simplified") << "Meine Layouts"
-                                              << "en_US"
-                                              << "My layouts";
-    QTest::newRow("asked source simplified") << "  Meine \t Layouts "
-                                             << "en_US"
-                                             << "My layouts";
-    QTest::newRow("metallic variant") << "Effektlack_metallic"
-                                      << "en_US"
-                                      << "Effect varnish";
-    QTest::newRow("metallic variant in country table") << "Farben_metallic"
-                                                       << "en_GB"
-                                                       << "Colours";
-    QTest::newRow("metallic variant via language table") << "Effektlack_metallic"
-                                                         << "en_GB"
-                                                         << "Effect varnish";
-    QTest::newRow("metallic suffix is case-sensitive") << "Effektlack_Metallic"
-                                                       << "en_US"
-                                                       << "Effektlack_Metallic";
-    QTest::newRow("unfinished translation") << "Sonstige"
-                                            << "en_US"
-                                            << "Sonstige";
-    QTest::newRow("message without translation") << "Favoriten"
-                                                 << "en_US"
-                                                 << "Favoriten";
-    QTest::newRow("only the first context") << "Silber"
-                                            << "en_US"
-                                            << "Silber";
-    QTest::newRow("subdirectory") << "Mittig"
-                                  << "en_GB"
-                                  << "Middle";
-    QTest::newRow("sources are case-sensitive") << "farben"
-                                                << "en_US"
-                                                << "farben";
-    QTest::newRow("unknown source unchanged") << "  Neu  "
-                                              << "en_US"
-                                              << "  Neu  ";
-    QTest::newRow("file of another language not read") << "Farben"
-                                                       << "de_DE"
-                                                       << "Farben";
-    QTest::newRow("file name without language part") << "Grau"
-                                                     << "en_US"
-                                                     << "Grau";
+    QTest::newRow("country table first") << u"Farben"_s << u"en_GB"_s << u"Colours"_s;
+    QTest::newRow("language table") << u"Farben"_s << u"en_US"_s << u"Colors"_s;
+    QTest::newRow("country falls back to language") << u"Effektlack"_s << u"en_AU"_s << u"Effect varnish"_s;
+    QTest::newRow("later file wins") << u"Papierkorb"_s << u"en_GB"_s << u"Recycle bin"_s;
+    QTest::newRow("stored source simplified") << u"Meine Layouts"_s << u"en_US"_s << u"My layouts"_s;
+    QTest::newRow("asked source simplified") << u"  Meine \t Layouts "_s << u"en_US"_s << u"My layouts"_s;
+    QTest::newRow("metallic variant") << u"Effektlack_metallic"_s << u"en_US"_s << u"Effect varnish"_s;
+    QTest::newRow("metallic variant via language table")
+        << u"Effektlack_metallic"_s << u"en_GB"_s << u"Effect varnish"_s;
+    QTest::newRow("metallic suffix is case-sensitive")
+        << u"Effektlack_Metallic"_s << u"en_US"_s << u"Effektlack_Metallic"_s;
+    QTest::newRow("unfinished translation") << u"Sonstige"_s << u"en_US"_s << u"Sonstige"_s;
+    QTest::newRow("message without translation") << u"Favoriten"_s << u"en_US"_s << u"Favoriten"_s;
+    QTest::newRow("only the first context") << u"Silber"_s << u"en_US"_s << u"Silber"_s;
+    QTest::newRow("subdirectory") << u"Mittig"_s << u"en_GB"_s << u"Middle"_s;
+    QTest::newRow("unknown source unchanged") << u"  Neu  "_s << u"en_US"_s << u"  Neu  "_s;
+    QTest::newRow("file of another language not read") << u"Farben"_s << u"de_DE"_s << u"Farben"_s;
+    QTest::newRow("file name without language part") << u"Grau"_s << u"en_US"_s << u"Grau"_s;
+    QTest::newRow("context after other elements") << u"Rot"_s << u"en_US"_s << u"Red"_s;
+    QTest::newRow("broken files add nothing") << u"Blau"_s << u"en_US"_s << u"Blau"_s;
 }
 
 void tst_ThematicCategoryTranslationRegistry::translation()
@@ -164,92 +123,29 @@ void tst_ThematicCategoryTranslationRegistry::translation()
     QFETCH(QString, source);
     QFETCH(QString, locale);
     QFETCH(QString, expected);
-    QCOMPARE(registry()->translation(source, QLocale(locale)), expected);
     QCOMPARE(registry()->translate(source, QLocale(locale)), expected);
 }
 
-void tst_ThematicCategoryTranslationRegistry::parseXML_data()
+// After a change of language the registry reads the document handed over; when it cannot, it scans the files.
+void tst_ThematicCategoryTranslationRegistry::languageChange()
 {
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<bool>("expected");
-    QTest::addColumn<QString>("warning");
-    QTest::addColumn<QString>("translation");
-
-    const QString message = QStringLiteral("<message><source>Rot</source><translation>Rouge</translation></message>");
-    QTest::newRow("root is not TS") << "<ts language=\"fr\"><context>" + message + "</context></ts>" << false
-                                    << "No TS element at beginning."
-                                    << "Rot";
-    QTest::newRow("empty language") << "<TS language=\"\"><context>" + message + "</context></TS>" << false
-                                    << "No language attribute."
-                                    << "Rot";
-    QTest::newRow("no context") << "<TS language=\"fr\">" + message + "</TS>" << false
-                                << "No contextElement element after TS."
-                                << "Rot";
-    QTest::newRow("context after other elements")
-        << "<TS language=\"fr\"><dependencies/><context><name>x</name>" + message + "</context></TS>" << true
-        << QString() << "Rouge";
-}
-
-void tst_ThematicCategoryTranslationRegistry::parseXML()
-{
-    QFETCH(QString, xml);
-    QFETCH(bool, expected);
-    QFETCH(QString, warning);
-    QFETCH(QString, translation);
-
-    QDomDocument document;
-    QVERIFY(document.setContent(xml));
-    if (!warning.isEmpty())
-        QTest::ignoreMessage(QtWarningMsg, warning.toUtf8().constData());
-    QCOMPARE(registry()->parseXML(document.documentElement()), expected);
-    QCOMPARE(registry()->translate(QStringLiteral("Rot"), QLocale(QStringLiteral("fr_FR"))), translation);
-}
-
-void tst_ThematicCategoryTranslationRegistry::addTranslationsMergesEntryByEntry()
-{
-    const QLocale dutch(QStringLiteral("nl_NL"));
-    registry()->addTranslations(dutch.name(),
-        { { QStringLiteral("Rot"), QStringLiteral("Rood") }, { QStringLiteral("Blau"), QStringLiteral("Blauw") } });
-    registry()->addTranslations(dutch.name(), { { QStringLiteral("Blau"), QStringLiteral("Lichtblauw") } });
-    QCOMPARE(registry()->translate(QStringLiteral("Rot"), dutch), QStringLiteral("Rood"));
-    QCOMPARE(registry()->translate(QStringLiteral("Blau"), dutch), QStringLiteral("Lichtblauw"));
-}
-
-void tst_ThematicCategoryTranslationRegistry::languageChangeReadsHandedOverDocument()
-{
-    localeManager()->setLocale(QLocale(QStringLiteral("es_ES")));
-    localeManager()->setLanguageChanged(true);
-    localeManager()->setThematicTranslations(
-        tsDocument(QStringLiteral("es"), { { QStringLiteral("Farben"), QStringLiteral("Colores") } }));
-
-    QVERIFY(registry()->init());
-    QCOMPARE(
-        registry()->translate(QStringLiteral("Farben"), QLocale(QStringLiteral("es_ES"))), QStringLiteral("Colores"));
-    // Tables of other languages stay.
-    QCOMPARE(
-        registry()->translate(QStringLiteral("Farben"), QLocale(QStringLiteral("en_GB"))), QStringLiteral("Colours"));
-    localeManager()->setLanguageChanged(false);
-}
-
-void tst_ThematicCategoryTranslationRegistry::unreadableHandedOverDocumentFallsBackToFiles()
-{
-    QVERIFY(writeFile(m_dir.path(), QStringLiteral("late_en_a.ts"),
-        tsDocument(QStringLiteral("en"), { { QStringLiteral("Oben"), QStringLiteral("Top") } })));
-    QVERIFY(writeFile(m_dir.path(), QStringLiteral("late_fr_a.ts"),
-        tsDocument(QStringLiteral("fr"), { { QStringLiteral("Oben"), QStringLiteral("Haut") } })));
-    localeManager()->setLocale(QLocale(QStringLiteral("fr_FR")));
+    QVERIFY(ZRTest::writeFile(m_dir.path(), u"late_en_a.ts"_s, tsDocument(u"en"_s, { { u"Oben"_s, u"Top"_s } })));
+    QVERIFY(ZRTest::writeFile(m_dir.path(), u"late_fr_a.ts"_s, tsDocument(u"fr"_s, { { u"Oben"_s, u"Haut"_s } })));
+    localeManager()->setLocale(QLocale(u"fr_FR"_s));
     localeManager()->setLanguageChanged(true);
     localeManager()->setThematicTranslations("<TS language=\"fr\"><context>");
-
-    QTest::ignoreMessage(QtWarningMsg, "No TS element at beginning.");
-    QVERIFY(!registry()->initFromZIP());
-
     QTest::ignoreMessage(QtWarningMsg, "No TS element at beginning.");
     expectWarningsOfBrokenFiles();
     QVERIFY(!registry()->init()); // the broken files are read again
-    QCOMPARE(registry()->translate(QStringLiteral("Oben"), QLocale(QStringLiteral("en_GB"))), QStringLiteral("Top"));
+    QCOMPARE(registry()->translate(u"Oben"_s, QLocale(u"en_GB"_s)), u"Top"_s);
     // The name filter stays at the language of the first scan.
-    QCOMPARE(registry()->translate(QStringLiteral("Oben"), QLocale(QStringLiteral("fr_FR"))), QStringLiteral("Oben"));
+    QCOMPARE(registry()->translate(u"Oben"_s, QLocale(u"fr_FR"_s)), u"Oben"_s);
+
+    localeManager()->setThematicTranslations(tsDocument(u"fr"_s, { { u"Oben"_s, u"Haut"_s } }));
+    QVERIFY(registry()->init());
+    QCOMPARE(registry()->translate(u"Oben"_s, QLocale(u"fr_FR"_s)), u"Haut"_s);
+    // Tables of other languages stay.
+    QCOMPARE(registry()->translate(u"Farben"_s, QLocale(u"en_GB"_s)), u"Colours"_s);
     localeManager()->setLanguageChanged(false);
 }
 
