@@ -5,7 +5,6 @@
 #include "ZRProductCheckerRegistry.h"
 #include "ZRProductPropertiesInitializer.h"
 #include "ZRTestSupport.h"
-#include "ZRXMLBuilder.h"
 #include "ZRXMLParser.h"
 
 #include <QDomDocument>
@@ -65,7 +64,6 @@ private slots:
     void geometry();
     void decimalAttribute_data();
     void decimalAttribute();
-    void buildDomElement();
     void productTypeAsHashKey();
     void pageContextMatching_data();
     void pageContextMatching();
@@ -163,17 +161,6 @@ void tst_Base::decimalAttribute()
     // Bit for bit, so that -0 and the last bit of a rounding count.
     QCOMPARE(qFloatDistance(read, expected), quint64(0));
     QCOMPARE(std::signbit(read), std::signbit(expected));
-}
-
-void tst_Base::buildDomElement()
-{
-    QDomDocument document;
-    QDomElement root = document.createElement(QStringLiteral("root"));
-    document.appendChild(root);
-    ZRXMLBuilder::buildDomElement(root, QStringLiteral("subcategory"), QStringLiteral("Farben"));
-    ZRXMLBuilder::buildDomElement(root, QStringLiteral("subcategory"), QStringLiteral("Gold"));
-    QCOMPARE(document.toString(-1),
-        QStringLiteral("<root><subcategory>Farben</subcategory><subcategory>Gold</subcategory></root>"));
 }
 
 void tst_Base::productTypeAsHashKey()

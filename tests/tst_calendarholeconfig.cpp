@@ -9,7 +9,7 @@ class tst_ZRCalendarHoleConfig : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
     void read_data();
     void read();
     void compare_data();
@@ -17,11 +17,6 @@ private Q_SLOTS:
 };
 
 using ZRTest::parseElement;
-
-void tst_ZRCalendarHoleConfig::init()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-}
 
 void tst_ZRCalendarHoleConfig::read_data()
 {
@@ -72,15 +67,13 @@ void tst_ZRCalendarHoleConfig::compare()
     QFETCH(QString, a);
     QFETCH(QString, b);
     QFETCH(bool, equal);
-    QFETCH(bool, aLessB);
-    QFETCH(bool, bLessA);
 
     const ZRCalendarHoleConfig first(parseElement(a));
     const ZRCalendarHoleConfig second(parseElement(b));
     QCOMPARE(first == second, equal);
     QCOMPARE(first != second, !equal);
-    QCOMPARE(first < second, aLessB);
-    QCOMPARE(second < first, bLessA);
+    QTEST(first < second, "aLessB");
+    QTEST(second < first, "bLessA");
 }
 
 QTEST_GUILESS_MAIN(tst_ZRCalendarHoleConfig)

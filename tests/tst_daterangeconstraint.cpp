@@ -9,15 +9,10 @@ class tst_ZRDateRangeConstraint : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
     void allowedDates_data();
     void allowedDates();
 };
-
-void tst_ZRDateRangeConstraint::init()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
-}
 
 void tst_ZRDateRangeConstraint::allowedDates_data()
 {

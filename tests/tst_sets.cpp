@@ -123,10 +123,9 @@ void tst_Sets::containsMatch_data()
 void tst_Sets::containsMatch()
 {
     QFETCH(int, probe);
-    QFETCH(bool, match);
     ZRPageTypeList list { ZRPageTypeCoverFront, ZRPageTypeCoverInsideBack, ZRPageTypeContentPages };
     const ZRPageTypeList copy = list;
-    QCOMPARE(list.containsMatch(ZRPageType(ZRPageTypeEnum(probe))), match);
+    QTEST(list.containsMatch(ZRPageType(ZRPageTypeEnum(probe))), "match");
     QCOMPARE(list, copy);
     QVERIFY(!ZRPageTypeList().containsMatch(ZRPageType(ZRPageTypeAll)));
 }

@@ -161,11 +161,10 @@ void tst_Surroundings::spineFold()
 {
     QFETCH(QString, attributes);
     QFETCH(bool, hasSpineFold);
-    QFETCH(int, withMargins);
 
     const ZRSurroundingDescription d = surrounding(attributes);
     QCOMPARE(d.hasSpineFold(), hasSpineFold);
-    QCOMPARE(d.spineFoldWithSafetyMargins(), withMargins);
+    QTEST(d.spineFoldWithSafetyMargins(), "withMargins");
 }
 
 void tst_Surroundings::equality_data()
@@ -180,21 +179,12 @@ void tst_Surroundings::equality_data()
     for (const char *ignored : { "PageNr='4'", "hasBindingShade='true'", "hideGraphicInPreview='true'",
              "hidegrafikinpreview='true'", "hasSpineFold='true'", "spineFoldWidth='5'" })
         QTest::newRow(ignored) << ignored << QString() << true;
-    QTest::newRow("pageNr") << "pageNr='4'" << QString() << false;
-    QTest::newRow("paintOnTop") << "paintOnTop='false'" << QString() << false;
-    QTest::newRow("canBeHiddenByUser") << "canBeHiddenByUser='true'" << QString() << false;
-    QTest::newRow("hideGrafikInPreview") << "hideGrafikInPreview='true'" << QString() << false;
-    QTest::newRow("hasbindingshade") << "hasbindingshade='true'" << QString() << false;
-    QTest::newRow("hasspinefold") << "hasspinefold='true'" << QString() << false;
-    QTest::newRow("image") << "image='a.png'" << QString() << false;
-    QTest::newRow("imageSpotColor") << "imageSpotColor='a.png'" << QString() << false;
-    QTest::newRow("spotColor") << "spotColor='silver'" << QString() << false;
-    QTest::newRow("spotColorMask") << "spotColorMask='0 0 1 1'" << QString() << false;
-    QTest::newRow("editable area") << "x='1'" << QString() << false;
-    QTest::newRow("spinefoldwidth") << "spinefoldwidth='3'" << QString() << false;
-    QTest::newRow("variant") << "variant='color=red'" << QString() << false;
-    QTest::newRow("tileWidth") << "tileWidth='3'" << QString() << false;
-    QTest::newRow("tileHeight") << "tileHeight='3'" << QString() << false;
+    // Every field read takes part in the comparison.
+    for (const char *changed : { "pageNr='4'", "paintOnTop='false'", "canBeHiddenByUser='true'",
+             "hideGrafikInPreview='true'", "hasbindingshade='true'", "hasspinefold='true'", "image='a.png'",
+             "imageSpotColor='a.png'", "spotColor='silver'", "spotColorMask='0 0 1 1'", "x='1'", "spinefoldwidth='3'",
+             "variant='color=red'", "tileWidth='3'", "tileHeight='3'" })
+        QTest::newRow(changed) << changed << QString() << false;
     QTest::newRow("hole") << QString() << "<hole diameter='6' distanceY='80'/>" << false;
     QTest::newRow("spirals") << QString() << "<spirals count='3'/>" << false;
 }
@@ -203,10 +193,9 @@ void tst_Surroundings::equality()
 {
     QFETCH(QString, extra);
     QFETCH(QString, children);
-    QFETCH(bool, equal);
 
     const QString base = QStringLiteral(R"(type="border" pageType="content" )");
-    QCOMPARE(surrounding(base + extra, children) == surrounding(base), equal);
+    QTEST(surrounding(base + extra, children) == surrounding(base), "equal");
 }
 
 void tst_Surroundings::isOkayFor_data()
@@ -240,8 +229,7 @@ void tst_Surroundings::isOkayFor()
 {
     QFETCH(ZRSurroundingKey, own);
     QFETCH(ZRSurroundingKey, queried);
-    QFETCH(bool, expected);
-    QCOMPARE(own.isOkayFor(queried), expected);
+    QTEST(own.isOkayFor(queried), "expected");
 }
 
 void tst_Surroundings::findDescription_data()
