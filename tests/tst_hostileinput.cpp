@@ -2,12 +2,11 @@
 #include "ZRLocaleAndTranslationManager.h"
 #include "ZRProductTypeDescription.h"
 #include "ZRProductTypeDescriptionReader.h"
+#include "ZRTestSupport.h"
 #include "ZRThematicCategory.h"
 #include "ZRThematicCategoryTranslationRegistry.h"
-#include "ZRXMLLimits.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -15,7 +14,7 @@
 #include <memory>
 
 namespace {
-/** The entry points that read XML, each with a document it accepts around the hostile part. */
+/** The entry points that read XML. */
 enum class Entry
 {
     ProductFile,
@@ -24,35 +23,19 @@ enum class Entry
     TranslationDocument
 };
 
-struct Frame
+/** A document that @p entry accepts, with @p subset as internal DTD subset and @p body inside its content. */
+QByteArray document(Entry entry, const QByteArray &subset, const QByteArray &body)
 {
-    QByteArray prolog; // followed by the internal subset, if any, and "]>"
-    QByteArray begin;
-    QByteArray end;
-};
-
-Frame frameOf(Entry entry)
-{
-    switch (entry) {
-    case Entry::ProductFile:
-        return { "<!DOCTYPE products", "<products><product name='hostile'>", "</product></products>" };
-    case Entry::ColourTable:
-        return { "<!DOCTYPE colors", "<colors><color name='Rot' rgb='#ff0000'/>", "</colors>" };
-    case Entry::TranslationFile:
-    case Entry::TranslationDocument:
-        break;
-    }
-    return { "<?xml version='1.0' encoding='utf-8'?>\n<!DOCTYPE TS",
-        "<TS version='2.1' language='en'><context><name>Categories</name>"
-        "<message><source>Rot</source><translation>Red</translation></message>",
-        "</context></TS>" };
-}
-
-QByteArray document(Entry entry, const QByteArray &subset, const QByteArray &body, bool closed = true)
-{
-    const Frame frame = frameOf(entry);
-    return frame.prolog + (subset.isEmpty() ? QByteArray() : " [" + subset + "]") + ">" + frame.begin + body
-        + (closed ? frame.end : QByteArray());
+    static const char *const frames[][3]
+        = { { "products", "<products><product name='hostile'>", "</product></products>" },
+              { "colors", "<colors><color name='Rot' rgb='#ff0000'/>", "</colors>" },
+              { "TS",
+                  "<TS version='2.1' language='en'><context><name>Categories</name>"
+                  "<message><source>Rot</source><translation>Red</translation></message>",
+                  "</context></TS>" } };
+    const auto &frame = frames[qMin(int(entry), 2)];
+    return QByteArray("<?xml version='1.0' encoding='utf-8'?>\n<!DOCTYPE ") + frame[0]
+        + (subset.isEmpty() ? QByteArray() : " [" + subset + "]") + ">" + frame[1] + body + frame[2];
 }
 
 QByteArray manyAttributes(int count)
@@ -89,7 +72,6 @@ private:
 
 void tst_HostileInput::initTestCase()
 {
-    QVERIFY(m_dir.isValid());
     // The registries read no translation files of their own.
     ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThematicTranslationsDirectories({ m_dir.path() });
     ZRSingleton<ZRDirectoryConfig>::instance()->setResourcesDir(QDir(m_dir.path()));
@@ -106,19 +88,14 @@ void tst_HostileInput::refusedQuickly_data()
         { "TS document", Entry::TranslationDocument } };
     const QByteArray deep = QByteArray("<a>").repeated(130000);
     const QByteArray entity = "<!ENTITY e '" + QByteArray(4000, 'x') + "'>";
-    const QByteArray longText(ZRXMLLimits::maxValueLength + 1, 'x');
     for (const auto &[name, entry] : entries) {
         const auto row = [name = name](const char *what) -> QTestData & { return QTest::addRow("%s: %s", name, what); };
         row("well-formed") << entry << document(entry, {}, "<a b='c'>d</a>") << true;
         row("130,000 nested elements") << entry << document(entry, {}, deep + QByteArray("</a>").repeated(130000))
                                        << false;
-        row("truncated in 130,000 nested elements") << entry << document(entry, {}, deep, false) << false;
         row("50,000 references to a 4,000-character entity")
             << entry << document(entry, entity, "<a>" + QByteArray("&e;").repeated(50000) + "</a>") << false;
-        row("default attributes") << entry << document(entry, "<!ATTLIST a b CDATA 'c'>", "<a/>") << false;
         row("100,000 attributes") << entry << document(entry, {}, manyAttributes(100000)) << false;
-        row("text over 1 MiB") << entry << document(entry, {}, "<a>" + longText + "</a>") << false;
-        row("attribute value over 1 MiB") << entry << document(entry, {}, "<a b='" + longText + "'/>") << false;
         row("over 16 MiB") << entry << document(entry, {}, QByteArray("<a/>").repeated(4 * 1024 * 1024)) << false;
         row("binary") << entry << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << false;
     }
@@ -132,18 +109,12 @@ void tst_HostileInput::refusedQuickly()
     QFETCH(QByteArray, content);
     QFETCH(bool, accepted);
 
-    const QString path
-        = m_dir.filePath(entry == Entry::ColourTable ? QStringLiteral("colors.xml") : QStringLiteral("hostile.xml"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    QCOMPARE(file.write(content), content.size());
-    file.close();
-    if (!accepted) {
-        if (entry == Entry::ProductFile)
-            QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("could not open ") + path));
-        else if (entry != Entry::ColourTable)
-            QTest::ignoreMessage(QtWarningMsg, "No TS element at beginning.");
-    }
+    const QString path = m_dir.filePath(entry == Entry::ColourTable ? "colors.xml" : "hostile.xml");
+    QVERIFY(ZRTest::writeFile(path, content));
+    if (!accepted && entry == Entry::ProductFile)
+        QTest::ignoreMessage(QtWarningMsg, qPrintable("could not open " + path));
+    else if (!accepted && entry != Entry::ColourTable)
+        QTest::ignoreMessage(QtWarningMsg, "No TS element at beginning.");
     TranslationRegistry translations;
     ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setThematicTranslations(content);
 
@@ -158,8 +129,7 @@ void tst_HostileInput::refusedQuickly()
         break;
     }
     case Entry::ColourTable:
-        QCOMPARE(
-            ZRThematicCategory::readColorsXML().value(QStringLiteral("Rot")), accepted ? QColor(Qt::red) : QColor());
+        QCOMPARE(ZRThematicCategory::readColorsXML().value("Rot"), accepted ? QColor(Qt::red) : QColor());
         break;
     case Entry::TranslationFile:
         QCOMPARE(translations.parseXML(QFileInfo(path), true), accepted);
@@ -168,12 +138,9 @@ void tst_HostileInput::refusedQuickly()
         QCOMPARE(translations.initFromZIP(), accepted);
         break;
     }
-    const qint64 elapsed = timer.elapsed();
-    QVERIFY2(elapsed < 1000, qPrintable(QStringLiteral("took %1 ms").arg(elapsed)));
-    if (entry == Entry::TranslationFile || entry == Entry::TranslationDocument) {
-        QCOMPARE(translations.translation(QStringLiteral("Rot"), QLocale(QLocale::English)),
-            accepted ? QStringLiteral("Red") : QStringLiteral("Rot"));
-    }
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QStringLiteral("took %1 ms").arg(timer.elapsed())));
+    if (entry == Entry::TranslationFile || entry == Entry::TranslationDocument)
+        QCOMPARE(translations.translate("Rot", QLocale(QLocale::English)), QLatin1String(accepted ? "Red" : "Rot"));
 }
 
 QTEST_GUILESS_MAIN(tst_HostileInput)
