@@ -3,22 +3,12 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
-#include <QFileInfo>
 #include <QMap>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
-/** One text of a catalogue, keyed by context, source and disambiguation as lupdate keys it. */
-struct Message
-{
-    QString context;
-    QString source;
-    bool finished = false;
-};
-using Messages = QMap<QString, Message>;
-
 /** A translation is finished when lupdate has not marked it and no (plural) form of it is empty. */
 bool isFinished(const QDomElement &translation)
 {
@@ -34,58 +24,38 @@ bool isFinished(const QDomElement &translation)
     return true;
 }
 
-struct Catalogue
-{
-    QString language;
-    QString sourceLanguage;
-    Messages messages;
-};
-
-bool readCatalogue(const QString &path, Catalogue *catalogue, QString *error)
+/** The TS document in @p path; a file that cannot be read or parsed aborts the run. */
+QDomDocument readCatalogue(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("cannot read %1: %2").arg(path, file.errorString());
-        return false;
-    }
     QDomDocument document;
-    QString message;
+    QString error = QStringLiteral("cannot open");
     int line = 0;
-    if (!document.setContent(&file, &message, &line)) {
-        *error = QStringLiteral("%1:%2: %3").arg(path).arg(line).arg(message);
-        return false;
-    }
-    const QDomElement root = document.documentElement();
-    catalogue->language = root.attribute(QStringLiteral("language"));
-    catalogue->sourceLanguage = root.attribute(QStringLiteral("sourcelanguage"));
+    if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file, &error, &line))
+        qFatal("%s:%d: %s", qPrintable(path), line, qPrintable(error));
+    return document;
+}
+
+/**
+ * The messages of @p root, each as "context: source" (with the disambiguation after a "|", as lupdate keys
+ * them), mapped to whether its translation is finished.
+ */
+QMap<QString, bool> messagesOf(const QDomElement &root)
+{
+    QMap<QString, bool> messages;
     for (QDomElement context = root.firstChildElement(QStringLiteral("context")); !context.isNull();
          context = context.nextSiblingElement(QStringLiteral("context"))) {
         const QString name = context.firstChildElement(QStringLiteral("name")).text();
         for (QDomElement message = context.firstChildElement(QStringLiteral("message")); !message.isNull();
              message = message.nextSiblingElement(QStringLiteral("message"))) {
-            const QString source = message.firstChildElement(QStringLiteral("source")).text();
+            QString key = name + QLatin1String(": ") + message.firstChildElement(QStringLiteral("source")).text();
             const QString comment = message.firstChildElement(QStringLiteral("comment")).text();
-            const QString key = name + QLatin1Char('\n') + source + QLatin1Char('\n') + comment;
-            catalogue->messages.insert(
-                key, { name, source, isFinished(message.firstChildElement(QStringLiteral("translation"))) });
+            if (!comment.isEmpty())
+                key += QLatin1String(" | ") + comment;
+            messages.insert(key, isFinished(message.firstChildElement(QStringLiteral("translation"))));
         }
     }
-    return true;
-}
-
-/** "ZRProductProperties_en.ts" -> "en". */
-QString languageOfFile(const QString &path)
-{
-    const QString base = QFileInfo(path).completeBaseName();
-    return base.mid(base.indexOf(QLatin1Char('_')) + 1);
-}
-
-/** One row per message: the catalogue's file name and the message's key. */
-void addRows(const Messages &messages, const QString &catalogue)
-{
-    for (auto it = messages.cbegin(); it != messages.cend(); ++it)
-        QTest::addRow("%s %s: %s", qPrintable(catalogue), qPrintable(it->context), qPrintable(it->source))
-            << catalogue << it.key();
+    return messages;
 }
 } // namespace
 
@@ -95,25 +65,17 @@ class tst_TranslationCatalogue : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-
-    void catalogueLanguage_data();
-    void catalogueLanguage();
-    void everyTextIsTranslated_data();
-    void everyTextIsTranslated();
-    void everyTranslationIsUsed_data();
-    void everyTranslationIsUsed();
+    void catalogue_data();
+    void catalogue();
 
 private:
     /** What lupdate finds in the sources now. */
-    Messages m_used;
-    /** The committed catalogues by file name, every ZRProductProperties_<language>.ts. */
-    QMap<QString, Catalogue> m_catalogues;
+    QMap<QString, bool> m_used;
 };
 
 void tst_TranslationCatalogue::initTestCase()
 {
     QTemporaryDir directory;
-    QVERIFY(directory.isValid());
     const QString fresh = directory.filePath(QStringLiteral("fresh.ts"));
     QProcess lupdate;
     lupdate.start(QStringLiteral(ZR_LUPDATE),
@@ -124,70 +86,42 @@ void tst_TranslationCatalogue::initTestCase()
     // lupdate reports calls it cannot read ("tr() cannot be called without context"): texts that no
     // catalogue would ever hold.
     QVERIFY2(errors.trimmed().isEmpty(), qPrintable(errors));
-
-    Catalogue used;
-    QString error;
-    QVERIFY2(readCatalogue(fresh, &used, &error), qPrintable(error));
-    m_used = used.messages;
+    m_used = messagesOf(readCatalogue(fresh).documentElement());
     QVERIFY2(!m_used.isEmpty(), "lupdate found no translatable text in the sources");
+}
 
+void tst_TranslationCatalogue::catalogue_data()
+{
+    QTest::addColumn<QString>("path");
     const QFileInfoList files = QDir(QStringLiteral(ZR_TRANSLATIONS_SOURCE_DIR))
                                     .entryInfoList({ QStringLiteral("ZRProductProperties_*.ts") }, QDir::Files);
     QVERIFY2(!files.isEmpty(), "no catalogue in " ZR_TRANSLATIONS_SOURCE_DIR);
-    for (const QFileInfo &file : files) {
-        Catalogue catalogue;
-        QVERIFY2(readCatalogue(file.filePath(), &catalogue, &error), qPrintable(error));
-        m_catalogues.insert(file.fileName(), catalogue);
-    }
+    for (const QFileInfo &file : files)
+        QTest::newRow(qPrintable(file.fileName())) << file.filePath();
 }
 
-void tst_TranslationCatalogue::catalogueLanguage_data()
+void tst_TranslationCatalogue::catalogue()
 {
-    QTest::addColumn<QString>("catalogue");
-    for (auto it = m_catalogues.cbegin(); it != m_catalogues.cend(); ++it)
-        QTest::newRow(qPrintable(it.key())) << it.key();
-}
-
-void tst_TranslationCatalogue::catalogueLanguage()
-{
-    QFETCH(QString, catalogue);
-
+    QFETCH(QString, path);
+    const QDomElement root = readCatalogue(path).documentElement();
     // lrelease takes the plural rules from the language; the source texts are German.
-    QCOMPARE(m_catalogues.value(catalogue).language, languageOfFile(catalogue));
-    QCOMPARE(m_catalogues.value(catalogue).sourceLanguage, QStringLiteral("de"));
-}
+    const QString base = QFileInfo(path).completeBaseName();
+    QCOMPARE(root.attribute(QStringLiteral("language")), base.mid(base.indexOf(QLatin1Char('_')) + 1));
+    QCOMPARE(root.attribute(QStringLiteral("sourcelanguage")), QStringLiteral("de"));
 
-void tst_TranslationCatalogue::everyTextIsTranslated_data()
-{
-    QTest::addColumn<QString>("catalogue");
-    QTest::addColumn<QString>("text");
-    for (auto it = m_catalogues.cbegin(); it != m_catalogues.cend(); ++it)
-        addRows(m_used, it.key());
-}
-
-void tst_TranslationCatalogue::everyTextIsTranslated()
-{
-    QFETCH(QString, catalogue);
-    QFETCH(QString, text);
-
-    const Messages messages = m_catalogues.value(catalogue).messages;
-    QVERIFY2(messages.contains(text), "missing from the catalogue: build update_translations and translate it");
-    QVERIFY2(messages.value(text).finished, "the translation is unfinished or empty");
-}
-
-void tst_TranslationCatalogue::everyTranslationIsUsed_data()
-{
-    QTest::addColumn<QString>("catalogue");
-    QTest::addColumn<QString>("text");
-    for (auto it = m_catalogues.cbegin(); it != m_catalogues.cend(); ++it)
-        addRows(it.value().messages, it.key());
-}
-
-void tst_TranslationCatalogue::everyTranslationIsUsed()
-{
-    QFETCH(QString, text);
-
-    QVERIFY2(m_used.contains(text), "the sources no longer use this text: build update_translations");
+    const QMap<QString, bool> messages = messagesOf(root);
+    QStringList problems;
+    for (auto it = m_used.cbegin(); it != m_used.cend(); ++it) {
+        if (!messages.contains(it.key()))
+            problems.append(QLatin1String("missing (build update_translations, translate it): ") + it.key());
+        else if (!messages.value(it.key()))
+            problems.append(QLatin1String("unfinished or empty: ") + it.key());
+    }
+    for (auto it = messages.cbegin(); it != messages.cend(); ++it) {
+        if (!m_used.contains(it.key()))
+            problems.append(QLatin1String("no longer used (build update_translations): ") + it.key());
+    }
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
 }
 
 QTEST_GUILESS_MAIN(tst_TranslationCatalogue)
