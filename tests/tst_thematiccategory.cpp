@@ -96,7 +96,6 @@ void tst_ThematicCategory::specialCategories_data()
     QTest::addColumn<int>("spotColor");
 
     // Content files name categories exactly so: non-ASCII letters and mixed case must survive.
-    QTest::newRow("user layouts") << C::userLayouts() << u"Meine Layouts"_s << int(User) << 0;
     QTest::newRow("user book styles") << C::userBookStyles() << u"Meine Buchvorlagen"_s << int(User) << 0;
     QTest::newRow("emboss") << C::emboss() << u"Effektlack"_s << int(SpotColor) << 1;
     QTest::newRow("gold") << C::gold() << u"Gold"_s << int(SpotColor) << 2;
@@ -105,7 +104,6 @@ void tst_ThematicCategory::specialCategories_data()
     QTest::newRow("silver ink") << C::silverInk() << u"Metallic Effekt"_s << int(SpotColor) << 16;
     QTest::newRow("fits to spot colour") << C::fitsToSpotColor() << u"Stile mit gewählter Veredelung"_s << 0 << 0;
     QTest::newRow("fits to style V2") << C::fitsToStyleV2Category() << u"category-fits-to-styleV2"_s << 0 << 0;
-    QTest::newRow("layout top") << C::layoutTop() << u"Oben"_s << int(SmartLayout) << 0;
     QTest::newRow("layout large area") << C::layoutLargeArea() << u"large"_s << int(SmartLayout) << 0;
     QTest::newRow("frames") << C::frames() << u"InterneRahmen"_s << int(Primary) << 0;
     QTest::newRow("passe-partouts") << C::passpartouts() << u"InterneMasken"_s << int(Primary) << 0;
