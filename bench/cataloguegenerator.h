@@ -7,9 +7,9 @@
 
 /**
  * Synthetic product catalogues for the benchmarks: every file uses the whole description format
- * (product attributes, pages, classification, surroundings with spirals and holes, 20-40 default
+ * (product attributes, pages, classification, surroundings with spirals and holes, 20 to 36 default
  * templates, redirects, extra production pages, editor abilities with jig categories, variants,
- * barcodes and a 3D preview) and is about 6 KB long, like the files of a real catalogue.
+ * barcodes and a 3D preview) and is 6 to 8 KB long, like the files of a real catalogue.
  *
  * The output depends only on the file number, never on the clock, the locale or the platform, so
  * two runs, or two machines, read exactly the same bytes.

@@ -6,7 +6,7 @@
 //   zrbench_load --memory-breakdown [--dir DIR] [--sizes N]               (heap kept per part)
 //
 // For every size the catalogue is generated once under DIR (reused by later runs), read once to warm
-// the page cache, and then timed REPEAT times, the order of the passes rotating from run to run:
+// the page cache, and then timed in REPEAT runs over all sizes, the order of the passes rotating:
 // (a) list the directory, read every file and QDomDocument::setContent() it; (b) the same with the
 // library's guarded ZRXMLLoader instead of setContent(); (c) construct a registry over the directory,
 // which lists, loads (as b) and builds every description. Medians are printed, of wall-clock and of
@@ -349,7 +349,12 @@ int main(int argc, char *argv[])
 
     const CatalogueGenerator::Catalogue warm
         = CatalogueGenerator::ensureCatalogue(root.filePath(QStringLiteral("warm")), 20);
-    QList<SizeResult> results;
+    struct Samples
+    {
+        QList<double> domWall, domCpu, loaderWall, loaderCpu, registryWall, registryCpu;
+    };
+    QList<CatalogueGenerator::Catalogue> catalogues;
+    QList<Samples> samples(sizes.size());
     for (const int size : std::as_const(sizes)) {
         const CatalogueGenerator::Catalogue catalogue
             = CatalogueGenerator::ensureCatalogue(root.filePath(QStringLiteral("n%1").arg(size)), size);
@@ -357,12 +362,17 @@ int main(int argc, char *argv[])
             out << "could not generate " << size << " files under " << catalogue.directory << Qt::endl;
             return 1;
         }
-        const QDir directory(catalogue.directory);
-        warmPageCache(directory);
+        warmPageCache(QDir(catalogue.directory));
+        catalogues.append(catalogue);
+    }
 
-        QList<double> domWall, domCpu, loaderWall, loaderCpu, registryWall, registryCpu, ratios, cpuRatios,
-            loaderRatios;
-        for (int run = 0; run < repeat; ++run) {
+    // Every run measures every size, so that the scaling from one size to the next is taken from
+    // passes close in time, and a change of the machine's load between sizes does not enter it.
+    QList<QList<double>> registryScaling(sizes.size()), registryCpuScaling(sizes.size()), domScaling(sizes.size());
+    for (int run = 0; run < repeat; ++run) {
+        for (qsizetype s = 0; s < catalogues.size(); ++s) {
+            const int size = catalogues.at(s).files;
+            const QDir directory(catalogues.at(s).directory);
             int documents = 0;
             int loaded = 0;
             int products = 0;
@@ -388,18 +398,23 @@ int main(int argc, char *argv[])
                     << " products of " << size << Qt::endl;
                 return 1;
             }
-            domWall.append(dom.wallMs);
-            domCpu.append(dom.cpuMs);
-            loaderWall.append(loader.wallMs);
-            loaderCpu.append(loader.cpuMs);
-            registryWall.append(registry.wallMs);
-            registryCpu.append(registry.cpuMs);
-            ratios.append(registry.wallMs / dom.wallMs);
-            cpuRatios.append(registry.cpuMs / dom.cpuMs);
-            loaderRatios.append(loader.wallMs / dom.wallMs);
-            out << QStringLiteral("  n=%1 run %2: wall dom %3 ms, loader %4 ms, registry %5 ms, ratio %6; cpu ratio %7")
-                       .arg(size)
+            Samples &sample = samples[s];
+            sample.domWall.append(dom.wallMs);
+            sample.domCpu.append(dom.cpuMs);
+            sample.loaderWall.append(loader.wallMs);
+            sample.loaderCpu.append(loader.cpuMs);
+            sample.registryWall.append(registry.wallMs);
+            sample.registryCpu.append(registry.cpuMs);
+            if (s > 0) {
+                const Samples &smaller = samples.at(s - 1);
+                registryScaling[s].append(registry.wallMs / smaller.registryWall.last());
+                registryCpuScaling[s].append(registry.cpuMs / smaller.registryCpu.last());
+                domScaling[s].append(dom.wallMs / smaller.domWall.last());
+            }
+            out << QStringLiteral(
+                "  run %1, n=%2: wall dom %3 ms, loader %4 ms, registry %5 ms, ratio %6; cpu ratio %7")
                        .arg(run + 1)
+                       .arg(size)
                        .arg(dom.wallMs, 0, 'f', 1)
                        .arg(loader.wallMs, 0, 'f', 1)
                        .arg(registry.wallMs, 0, 'f', 1)
@@ -407,18 +422,28 @@ int main(int argc, char *argv[])
                        .arg(registry.cpuMs / dom.cpuMs, 0, 'f', 3)
                 << Qt::endl;
         }
+    }
 
+    QList<SizeResult> results;
+    for (qsizetype s = 0; s < catalogues.size(); ++s) {
+        const Samples &sample = samples.at(s);
+        QList<double> ratios, cpuRatios, loaderRatios;
+        for (qsizetype run = 0; run < sample.domWall.size(); ++run) {
+            ratios.append(sample.registryWall.at(run) / sample.domWall.at(run));
+            cpuRatios.append(sample.registryCpu.at(run) / sample.domCpu.at(run));
+            loaderRatios.append(sample.loaderWall.at(run) / sample.domWall.at(run));
+        }
         SizeResult result;
-        result.files = catalogue.files;
-        result.bytes = catalogue.bytes;
-        result.dom = { median(domWall), median(domCpu) };
-        result.loader = { median(loaderWall), median(loaderCpu) };
-        result.registry = { median(registryWall), median(registryCpu) };
+        result.files = catalogues.at(s).files;
+        result.bytes = catalogues.at(s).bytes;
+        result.dom = { median(sample.domWall), median(sample.domCpu) };
+        result.loader = { median(sample.loaderWall), median(sample.loaderCpu) };
+        result.registry = { median(sample.registryWall), median(sample.registryCpu) };
         result.ratio = median(ratios);
         result.cpuRatio = median(cpuRatios);
         result.loaderRatio = median(loaderRatios);
-        if (!measureMemory(catalogue.directory, warm.directory, &result))
-            out << "  memory of n=" << size << " could not be measured" << Qt::endl;
+        if (!measureMemory(catalogues.at(s).directory, warm.directory, &result))
+            out << "  memory of n=" << result.files << " could not be measured" << Qt::endl;
         results.append(result);
     }
 
@@ -444,17 +469,14 @@ int main(int argc, char *argv[])
             << megabytes(result.heapBytes) << " | " << number(double(result.residentBytes) / double(result.bytes), 3)
             << " |" << Qt::endl;
     }
-    for (qsizetype i = 1; i < results.size(); ++i) {
-        const SizeResult &small = results.at(i - 1);
-        const SizeResult &large = results.at(i);
-        out << QStringLiteral("scaling %1 -> %2 files (x%3): registry x%4 (CPU x%5), DOM x%6 (CPU x%7)")
-                   .arg(small.files)
-                   .arg(large.files)
-                   .arg(double(large.files) / small.files, 0, 'f', 1)
-                   .arg(large.registry.wallMs / small.registry.wallMs, 0, 'f', 2)
-                   .arg(large.registry.cpuMs / small.registry.cpuMs, 0, 'f', 2)
-                   .arg(large.dom.wallMs / small.dom.wallMs, 0, 'f', 2)
-                   .arg(large.dom.cpuMs / small.dom.cpuMs, 0, 'f', 2)
+    for (qsizetype s = 1; s < results.size(); ++s) {
+        out << QStringLiteral("scaling %1 -> %2 files (x%3), median of the runs: registry x%4 (CPU x%5), DOM x%6")
+                   .arg(results.at(s - 1).files)
+                   .arg(results.at(s).files)
+                   .arg(double(results.at(s).files) / results.at(s - 1).files, 0, 'f', 1)
+                   .arg(median(registryScaling.at(s)), 0, 'f', 2)
+                   .arg(median(registryCpuScaling.at(s)), 0, 'f', 2)
+                   .arg(median(domScaling.at(s)), 0, 'f', 2)
             << Qt::endl;
     }
     return 0;
