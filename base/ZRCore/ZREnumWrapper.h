@@ -3,7 +3,8 @@
 
 #include "ZREnumToStringTable.h"
 
-#include "ZRLocks.h"
+#include <QMutex>
+#include <QMutexLocker>
 
 #include <atomic>
 #include <type_traits>
@@ -121,8 +122,8 @@ const ZREnumToStringTable<E> *ZREnumWrapper<E>::enumToStringTable() const
     static std::atomic<Table *> myTable { nullptr };
     if (Table *published = myTable.load(std::memory_order_acquire))
         return published;
-    static ZRMutex theMutex;
-    ZRMutexLocker locker(&theMutex);
+    static QMutex theMutex;
+    QMutexLocker locker(&theMutex);
     Table *table = myTable.load(std::memory_order_relaxed);
     if (!table) {
         table = new Table;

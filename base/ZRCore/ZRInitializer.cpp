@@ -8,14 +8,14 @@ ZRInitializer::~ZRInitializer() = default;
 
 void ZRInitializer::registerInitializer(ZRInitializerAbstract *initializer)
 {
-    ZRMutexLocker locker(&m_mutex);
+    QMutexLocker locker(&m_mutex);
     if (initializer && !m_initializers.contains(initializer))
         m_initializers.append(initializer);
 }
 
 QList<ZRInitializerAbstract *> ZRInitializer::initializers() const
 {
-    ZRMutexLocker locker(&m_mutex);
+    QMutexLocker locker(&m_mutex);
     return m_initializers;
 }
 

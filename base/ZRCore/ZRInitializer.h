@@ -6,6 +6,7 @@
 #include "zrcore_export.h"
 
 #include <QList>
+#include <QMutex>
 
 /**
  * The start-up hooks of all loaded libraries, in the order they registered. Reached as
@@ -26,7 +27,7 @@ public:
     void teardownAll();
 
 private:
-    mutable ZRMutex m_mutex;
+    mutable QMutex m_mutex;
     QList<ZRInitializerAbstract *> m_initializers;
 };
 

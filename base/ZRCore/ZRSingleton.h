@@ -1,7 +1,7 @@
 #ifndef ZRSINGLETON_H
 #define ZRSINGLETON_H
 
-#include "ZRLocks.h"
+#include "ZRReadWriteLock.h"
 
 #include <atomic>
 

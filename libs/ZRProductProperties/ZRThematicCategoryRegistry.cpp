@@ -4,6 +4,7 @@
 #include "ZRThematicCategory.h"
 #include "ZRThematicCategoryTranslationRegistry.h"
 
+#include <QMutexLocker>
 #include <QStringList>
 
 #include <algorithm>
@@ -32,7 +33,7 @@ ZRThematicCategoryRegistry::~ZRThematicCategoryRegistry() = default;
 
 int ZRThematicCategoryRegistry::key(const QString &name)
 {
-    ZRMutexLocker locker(&mutex);
+    QMutexLocker locker(&mutex);
     const QString lowerName = name.toLower();
     auto found = keysByInternalName.constFind(lowerName);
     if (found != keysByInternalName.cend())
@@ -70,13 +71,13 @@ int ZRThematicCategoryRegistry::generateKey(const QString &lowerVisibleName)
 
 QString ZRThematicCategoryRegistry::internalName(const int &key) const
 {
-    ZRMutexLocker locker(&mutex);
+    QMutexLocker locker(&mutex);
     return internalNames.value(key);
 }
 
 QString ZRThematicCategoryRegistry::visibleName(const int &key) const
 {
-    ZRMutexLocker locker(&mutex);
+    QMutexLocker locker(&mutex);
     return visibleNames.value(key);
 }
 
@@ -87,7 +88,7 @@ void ZRThematicCategoryRegistry::setVisibleName(const int &key, const QString &n
 
 QList<int> ZRThematicCategoryRegistry::keys() const
 {
-    ZRMutexLocker locker(&mutex);
+    QMutexLocker locker(&mutex);
     QList<int> result = internalNames.keys();
     std::sort(result.begin(), result.end());
     return result;

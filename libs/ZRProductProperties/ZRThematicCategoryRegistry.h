@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QMutex>
 #include <QString>
 
 class ZRThematicCategoryRegistry;
@@ -55,7 +56,7 @@ protected:
 
 private:
     int nextKey = 1;
-    mutable ZRMutex mutex;
+    mutable QMutex mutex;
     QHash<int, QString> internalNames;
     QHash<int, QString> visibleNames;
     QHash<QString, int> keysByInternalName;

@@ -1,17 +1,16 @@
-#ifndef ZRLOCKS_H
-#define ZRLOCKS_H
+#ifndef ZRREADWRITELOCK_H
+#define ZRREADWRITELOCK_H
 
-#include <QMutex>
-#include <QMutexLocker>
 #include <QReadWriteLock>
 #include <QThread>
 
 #include <atomic>
 
-// ThreadSanitizer only understands locks whose code it instrumented, and the system's Qt is built
-// without it: it then misses the ordering that QReadWriteLock gives (and reports races that are none)
-// and cannot see lock-order inversions across our locks. The wrappers below tell it about every
-// acquisition and release. Without ThreadSanitizer the annotations compile to nothing.
+// ThreadSanitizer only understands locks whose code it instrumented. QMutex annotates itself in its
+// inline code, but QReadWriteLock is compiled into the system's Qt, which is built without the
+// sanitizer: it then misses the ordering that the lock gives (and reports races that are none) and
+// lock-order inversions between it and a QMutex. ZRReadWriteLock tells it about every acquisition and
+// release. Without ThreadSanitizer the annotations compile to nothing.
 #if defined(__SANITIZE_THREAD__)
 #define ZR_TSAN_ANNOTATIONS 1
 #elif defined(__has_feature)
@@ -29,8 +28,6 @@ namespace ZRTsan {
 #ifdef ZR_TSAN_ANNOTATIONS
 constexpr unsigned reentrant = __tsan_mutex_write_reentrant | __tsan_mutex_read_reentrant;
 constexpr unsigned readLock = __tsan_mutex_read_lock;
-constexpr unsigned tryLock = __tsan_mutex_try_lock;
-constexpr unsigned tryLockFailed = __tsan_mutex_try_lock_failed;
 inline void create(void *lock, unsigned flags)
 {
     __tsan_mutex_create(lock, flags);
@@ -58,8 +55,6 @@ inline void postUnlock(void *lock, unsigned flags)
 #else
 constexpr unsigned reentrant = 0;
 constexpr unsigned readLock = 0;
-constexpr unsigned tryLock = 0;
-constexpr unsigned tryLockFailed = 0;
 inline void create(void *, unsigned) { }
 inline void destroy(void *) { }
 inline void preLock(void *, unsigned) { }
@@ -68,43 +63,6 @@ inline void preUnlock(void *, unsigned) { }
 inline void postUnlock(void *, unsigned) { }
 #endif
 } // namespace ZRTsan
-
-/**
- * A QMutex that ThreadSanitizer sees. Use it like QMutex, with ZRMutexLocker for scopes.
- */
-class ZRMutex
-{
-public:
-    ZRMutex() { ZRTsan::create(this, 0); }
-    ~ZRMutex() { ZRTsan::destroy(this); }
-    ZRMutex(const ZRMutex &) = delete;
-    ZRMutex &operator=(const ZRMutex &) = delete;
-
-    void lock()
-    {
-        ZRTsan::preLock(this, 0);
-        m_mutex.lock();
-        ZRTsan::postLock(this, 0);
-    }
-    bool tryLock()
-    {
-        ZRTsan::preLock(this, ZRTsan::tryLock);
-        const bool locked = m_mutex.tryLock();
-        ZRTsan::postLock(this, locked ? ZRTsan::tryLock : ZRTsan::tryLock | ZRTsan::tryLockFailed);
-        return locked;
-    }
-    void unlock()
-    {
-        ZRTsan::preUnlock(this, 0);
-        m_mutex.unlock();
-        ZRTsan::postUnlock(this, 0);
-    }
-
-private:
-    QMutex m_mutex;
-};
-
-using ZRMutexLocker = QMutexLocker<ZRMutex>;
 
 /**
  * A QReadWriteLock that ThreadSanitizer sees. Use it like QReadWriteLock, with ZRReadLocker and
