@@ -27,4 +27,7 @@ if(NOT ZR_SANITIZE STREQUAL "")
         # A report of undefined behaviour stops the program, so a test or fuzz run cannot pass over it.
         add_compile_options(-fno-sanitize-recover=undefined)
     endif()
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        add_compile_options(-fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/ZRSanitizers.ignorelist)
+    endif()
 endif()
