@@ -9,6 +9,7 @@
 #include <QDomNamedNodeMap>
 
 #include <initializer_list>
+#include <limits>
 
 namespace {
 const QString nameAttribute = QStringLiteral("name");
@@ -371,8 +372,9 @@ QList<int> ZRProductTypeDescription::productionNumberingList(int count) const
         numbers.append(1);
     if (numbers.size() > count)
         numbers.resize(qMax(count, 0));
+    // Counting on stops at the largest int instead of overflowing.
     while (numbers.size() < count)
-        numbers.append(numbers.last() + 1);
+        numbers.append(numbers.last() < std::numeric_limits<int>::max() ? numbers.last() + 1 : numbers.last());
     return numbers;
 }
 

@@ -136,7 +136,10 @@ public:
      */
     ZRPageTypeList pageTypes(unsigned int count) const;
     bool userPageTiltAllowed(const int &page) const;
-    /** The production numbers of @p count files: the listed ones (or 1), cut or counted on to @p count. */
+    /**
+     * The production numbers of @p count files: the listed ones (or 1), cut or counted on to @p count.
+     * Counting on stops at the largest int.
+     */
     QList<int> productionNumberingList(int count) const;
     /** True when the categories of a jig type on a page type are limited (a non-empty list). */
     bool limitJigCategories(const ZRPageType &pageType, const ZRJigType &jigType) const;

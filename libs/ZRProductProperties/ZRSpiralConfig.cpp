@@ -7,6 +7,9 @@
 #include <QPainter>
 #include <QTransform>
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 QString defaultLoopImageName()
 {
@@ -52,7 +55,12 @@ bool ZRSpiralConfig::hasHook() const
 
 QSize ZRSpiralConfig::spiralSize(Qt::Orientation orientation) const
 {
-    const int length = m_spiralCount * m_loopWidth + (m_spiralCount - 1) * m_loopDistance;
+    // Counted in 64 bits and held to the range of int, so that absurd counts or sizes in a description
+    // give the nearest size rather than overflow.
+    const qint64 exactLength
+        = qint64(m_spiralCount) * m_loopWidth + (qint64(m_spiralCount) - 1) * m_loopDistance;
+    const int length = int(std::clamp<qint64>(exactLength, std::numeric_limits<int>::min(),
+        std::numeric_limits<int>::max()));
     switch (orientation) {
     case Qt::Horizontal:
         return QSize(length, m_loopHeight);
@@ -84,12 +92,16 @@ QImage ZRSpiralConfig::bindingLoopImage() const
 QImage ZRSpiralConfig::spiralBindingLoopHorizontal(int count) const
 {
     const QImage loop = bindingLoopImage();
-    const int width = (count - 1) * m_loopWidth + count * loop.width();
+    const qint64 exactWidth = (qint64(count) - 1) * m_loopWidth + qint64(count) * loop.width();
     const int height = loop.height();
-    if (width <= 0 || height <= 0)
+    if (exactWidth <= 0 || exactWidth > std::numeric_limits<int>::max() || height <= 0)
         return QImage();
+    const int width = int(exactWidth);
 
     QImage strip(width, height, QImage::Format_ARGB32_Premultiplied);
+    // A strip too large to allocate has no loops to draw.
+    if (strip.isNull())
+        return QImage();
     strip.fill(Qt::transparent);
 
     // Loops overlapping the middle, where the hook hangs, are left out.
@@ -129,6 +141,9 @@ QImage ZRSpiralConfig::spiralHookImage() const
     static QColor lastBackgroundColor;
 
     const QColor color = ZRSingleton<ZRCSSSkinManager>::instance()->backgroundColor();
+    // A hook too high to double within int cannot be drawn.
+    if (m_hookHeight > std::numeric_limits<int>::max() / 2 || m_hookHeight < std::numeric_limits<int>::min() / 2)
+        return QImage();
     const QSize size(m_hookWidth, 2 * m_hookHeight);
     if (m_hookImage.isNull() || m_hookImage.size() != size || color != lastBackgroundColor) {
         lastBackgroundColor = color;

@@ -39,8 +39,9 @@ public:
 
     /**
      * The extent of the loop row: count loops plus the distances between them along the row, the loop
-     * height across. A count of 0 gives a length of minus one distance; an orientation that is neither
-     * horizontal nor vertical gives QSize(-1, -1).
+     * height across. A count of 0 gives a length of minus one distance; a length beyond the range of
+     * int is held to its nearest end; an orientation that is neither horizontal nor vertical gives
+     * QSize(-1, -1).
      */
     QSize spiralSize(Qt::Orientation orientation) const;
 
