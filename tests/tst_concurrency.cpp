@@ -11,6 +11,7 @@
 #include "ZRProductCheckerRegistry.h"
 #include "ZRProductTypeConfigRegistry.h"
 #include "ZRProductTypeDescription.h"
+#include "ZRSpiralConfig.h"
 #include "ZRSurroundingKey.h"
 #include "ZRThematicCategory.h"
 #include "ZRThematicCategoryRegistry.h"
@@ -165,7 +166,11 @@ QString productAnswers(const ZRProductTypeConfigRegistry *registry, const ZRProd
     for (int index = 0; index < pages.size(); ++index) {
         const ZRPageContext context(pages.at(index), description->pageAlignment(pages, index));
         answers.append(context.alignment().encodeCSV());
-        answers.append(description->findSurrounding(ZRSurroundingKey(context, index)).imageResource());
+        const ZRSurroundingDescription surrounding = description->findSurrounding(ZRSurroundingKey(context, index));
+        answers.append(surrounding.imageResource());
+        // Spiral pictures are drawn on demand, each thread its own copy of the surrounding.
+        const ZRSpiralConfig spiral = surrounding.spiralConfig();
+        answers.append(QString::number(spiral.spiralHookImage().width()));
         const QString layout = description->findDefaultTemplate(ZRDefaultTemplateKey(context, ZRDefaultTemplateLayout));
         answers.append(ZRSingleton<ZRHumanReadable>::instance()->templateName(layout));
         for (const ZRJigTypeEnum jig : { ZRJigTypeBackground, ZRJigTypeClipart, ZRJigTypeContent, ZRJigTypeLayout }) {
@@ -362,5 +367,5 @@ void tst_Concurrency::productQueriesOnTheLoadedRegistry()
     QCOMPARE(differences.load(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_Concurrency)
+QTEST_MAIN(tst_Concurrency)
 #include "tst_concurrency.moc"

@@ -4,6 +4,8 @@
 #include "ZRDirectoryConfig.h"
 #include "ZRXMLParser.h"
 
+#include <QMutex>
+#include <QMutexLocker>
 #include <QPainter>
 #include <QTransform>
 
@@ -137,16 +139,24 @@ QImage ZRSpiralConfig::spiralImage(Qt::Orientation orientation) const
 QImage ZRSpiralConfig::spiralHookImage() const
 {
     // One remembered colour for all spirals: a skin change is noticed by the first spiral that draws
-    // its hook afterwards.
+    // its hook afterwards. Spirals draw their hooks from any thread, so the colour has a lock.
     static QColor lastBackgroundColor;
+    static QMutex lastBackgroundColorMutex;
 
     const QColor color = ZRSingleton<ZRCSSSkinManager>::instance()->backgroundColor();
     // A hook too high to double within int cannot be drawn.
     if (m_hookHeight > std::numeric_limits<int>::max() / 2 || m_hookHeight < std::numeric_limits<int>::min() / 2)
         return QImage();
     const QSize size(m_hookWidth, 2 * m_hookHeight);
-    if (m_hookImage.isNull() || m_hookImage.size() != size || color != lastBackgroundColor) {
-        lastBackgroundColor = color;
+    bool redraw = m_hookImage.isNull() || m_hookImage.size() != size;
+    {
+        QMutexLocker locker(&lastBackgroundColorMutex);
+        if (color != lastBackgroundColor)
+            redraw = true;
+        if (redraw)
+            lastBackgroundColor = color;
+    }
+    if (redraw) {
         m_hookImage = QImage(size, QImage::Format_ARGB32_Premultiplied);
         if (m_hookImage.isNull())
             return m_hookImage;
