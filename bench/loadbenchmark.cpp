@@ -14,6 +14,7 @@
 // earlier passes cannot hide what the registry keeps.
 
 #include "cataloguegenerator.h"
+#include "directoryregistry.h"
 
 #include <ZRDefaultTemplateMap.h>
 #include <ZRPreview3DDescription.h>
@@ -42,21 +43,6 @@
 namespace {
 
 QTextStream out(stdout);
-
-/** A registry over one directory, loaded in its constructor like the editor's registries. */
-class DirectoryRegistry : public ZRProductTypeConfigRegistryAbstract
-{
-public:
-    explicit DirectoryRegistry(const QDir &directory)
-        : m_directory(directory)
-    {
-        load();
-    }
-    QList<QDir> supervisedDirs() const override { return { m_directory }; }
-
-private:
-    QDir m_directory;
-};
 
 double median(QList<double> values)
 {

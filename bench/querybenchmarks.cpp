@@ -8,6 +8,7 @@
 // checks the answer it is timed on, so none measures a look-up that silently misses.
 
 #include "cataloguegenerator.h"
+#include "directoryregistry.h"
 
 #include <ZRDefaultTemplateKey.h>
 #include <ZRDefaultTemplateMap.h>
@@ -35,21 +36,6 @@
 #include <memory>
 
 namespace {
-
-/** A registry over one directory, loaded in its constructor like the editor's registries. */
-class DirectoryRegistry : public ZRProductTypeConfigRegistryAbstract
-{
-public:
-    explicit DirectoryRegistry(const QDir &directory)
-        : m_directory(directory)
-    {
-        load();
-    }
-    QList<QDir> supervisedDirs() const override { return { m_directory }; }
-
-private:
-    QDir m_directory;
-};
 
 [[noreturn]] void fail(const char *what)
 {
