@@ -2,9 +2,11 @@
 #include "ZRLocaleAndTranslationManager.h"
 #include "ZRProductTypeDescription.h"
 #include "ZRProductTypeDescriptionReader.h"
+#include "ZRSurroundingDescriptionList.h"
 #include "ZRTestSupport.h"
 #include "ZRThematicCategory.h"
 #include "ZRThematicCategoryTranslationRegistry.h"
+#include "ZRXMLLimits.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>
@@ -46,6 +48,41 @@ QByteArray manyAttributes(int count)
     return element + "/>";
 }
 
+/** A product file of @p body, named "hostile". */
+QByteArray product(const QByteArray &body)
+{
+    return "<products><product name='hostile' class='photobook' binding='hardcover'>" + body + "</product></products>";
+}
+
+/** @p count numbers from 1, separated by commas. */
+QByteArray numbers(int count)
+{
+    QByteArray list;
+    for (int i = 1; i <= count; ++i)
+        list += QByteArray::number(i) + ',';
+    return list;
+}
+
+/** The pages that the page lists of @p description kept, over all of them. */
+int keptPages(const ZRProductTypeDescription &description)
+{
+    return int(description.contentDropRedirects().size() + description.extraProductionContents().totalPages()
+        + description.productionNumbering().size() + description.pagesWithContent().size()
+        + description.editorAbilities().userPageTiltConfig().pages().size());
+}
+
+/** Draws the spiral strips and hooks of @p description; true when each is null. */
+bool spiralPicturesAreNull(const ZRProductTypeDescription &description)
+{
+    bool null = true;
+    for (const ZRSurroundingDescription &surrounding : description.surroundings()) {
+        const ZRSpiralConfig spiral = surrounding.spiralConfig();
+        null = null && spiral.spiralImage(Qt::Horizontal).isNull() && spiral.spiralImage(Qt::Vertical).isNull()
+            && spiral.spiralHookImage().isNull();
+    }
+    return null;
+}
+
 /** A translation registry whose files are read one by one by the test. */
 class TranslationRegistry : public ZRThematicCategoryTranslationRegistry
 {
@@ -65,6 +102,8 @@ private slots:
 
     void refusedQuickly_data();
     void refusedQuickly();
+    void hostileValuesBesideAGoodProduct_data();
+    void hostileValuesBesideAGoodProduct();
 
 private:
     QTemporaryDir m_dir;
@@ -75,6 +114,8 @@ void tst_HostileInput::initTestCase()
     // The registries read no translation files of their own.
     ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThematicTranslationsDirectories({ m_dir.path() });
     ZRSingleton<ZRDirectoryConfig>::instance()->setResourcesDir(QDir(m_dir.path()));
+    ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThumbnailsDirectory(
+        QDir(QStringLiteral(ZR_EXAMPLES_DIR "/resources/thumbnails")));
 }
 
 void tst_HostileInput::refusedQuickly_data()
@@ -97,6 +138,9 @@ void tst_HostileInput::refusedQuickly_data()
             << entry << document(entry, entity, "<a>" + QByteArray("&e;").repeated(50000) + "</a>") << false;
         row("100,000 attributes") << entry << document(entry, {}, manyAttributes(100000)) << false;
         row("over 16 MiB") << entry << document(entry, {}, QByteArray("<a/>").repeated(4 * 1024 * 1024)) << false;
+        row("16 MiB of tiny elements") << entry
+                                       << document(entry, {}, QByteArray("<a/>").repeated(4 * 1024 * 1024 - 100))
+                                       << false;
         row("binary") << entry << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << false;
     }
 }
@@ -141,6 +185,89 @@ void tst_HostileInput::refusedQuickly()
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QStringLiteral("took %1 ms").arg(timer.elapsed())));
     if (entry == Entry::TranslationFile || entry == Entry::TranslationDocument)
         QCOMPARE(translations.translate("Rot", QLocale(QLocale::English)), QLatin1String(accepted ? "Red" : "Rot"));
+}
+
+void tst_HostileInput::hostileValuesBesideAGoodProduct_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("warning");
+    QTest::addColumn<int>("pages");
+
+    const QByteArray tooLong = "Page list too long in the product description.";
+    const QByteArray limit = QByteArray::number(ZRXMLLimits::maxListPages);
+    const QByteArray limitMinusOne = QByteArray::number(ZRXMLLimits::maxListPages - 1);
+    const auto redirect = [](const QByteArray &from) -> QByteArray {
+        return "<contentredirects><contentredirect from='" + from + "' to='1'/></contentredirects>";
+    };
+    const auto extraPages = [](const QByteArray &first, const QByteArray &second) -> QByteArray {
+        return "<extra_production_pages><item><target_pages>" + first + "</target_pages></item><item><target_pages>"
+            + second + "</target_pages></item></extra_production_pages>";
+    };
+    const auto listed = [](const char *element, const QByteArray &list) -> QByteArray {
+        return '<' + QByteArray(element) + '>' + list + "</" + element + '>';
+    };
+    // Each list has at most the limit of pages; the redirects and the extra pages count over all entries.
+    QTest::newRow("content redirect to the largest int") << product(redirect("0-2147483647")) << tooLong << 0;
+    QTest::newRow("content redirects of the limit")
+        << product(redirect("1-" + limit)) << QByteArray() << ZRXMLLimits::maxListPages;
+    QTest::newRow("content redirects past the limit, in two") << product("<contentredirects><contentredirect from='1-"
+        + limit + "' to='1'/><contentredirect from='1' to='2'/></contentredirects>")
+                                                              << tooLong << 0;
+    QTest::newRow("negative content redirect range")
+        << product(redirect("-2147483648-2147483647")) << QByteArray("parse error") << 0;
+    QTest::newRow("extra page range of 2^31 pages") << product(extraPages("-2147483647", "1")) << tooLong << 1;
+    QTest::newRow("extra pages of the limit, in two")
+        << product(extraPages("1-" + limitMinusOne, "1")) << QByteArray() << ZRXMLLimits::maxListPages;
+    QTest::newRow("extra pages past the limit, in two") << product(extraPages("1-" + limit, "1")) << tooLong << 0;
+    QTest::newRow("production numbers of the limit")
+        << product(listed("productionnumbering", numbers(ZRXMLLimits::maxListPages))) << QByteArray()
+        << ZRXMLLimits::maxListPages;
+    QTest::newRow("20,000 production numbers")
+        << product(listed("productionnumbering", numbers(20000))) << tooLong << 0;
+    QTest::newRow("20,000 pages with content") << product(listed("pageswithcontent", numbers(20000))) << tooLong << 0;
+    QTest::newRow("20,000 pages without tilt")
+        << product("<editorAbilities><pageTilt disabled='true' pages='" + numbers(20000) + "'/></editorAbilities>")
+        << tooLong << 0;
+    const QByteArray largest = "2147483647";
+    QTest::newRow("spiral and hole with every number at the largest int") << product(
+        "<surroundings><surrounding type='CALENDAR' x='" + largest + "' y='" + largest + "' width='" + largest
+        + "' height='" + largest + "' tileWidth='" + largest + "' tileHeight='" + largest + "' spotColorMask='"
+        + QByteArray("0 0 2147483647 2147483647;").repeated(40000) + "'><spirals count='" + largest + "' hookWidth='"
+        + largest + "' hookHeight='" + largest + "' loopHeight='" + largest + "' loopWidth='" + largest
+        + "' loopDistance='" + largest + "'/><hole diameter='" + largest + "' distanceY='" + largest
+        + "'/></surrounding></surroundings>") << QByteArray() << 0;
+    QTest::newRow("spiral strip past the pixel budget")
+        << product("<surroundings><surrounding type='CALENDAR'><spirals count='200000' hookWidth='8192' "
+                   "hookHeight='1025'/></surrounding></surroundings>")
+        << QByteArray() << 0;
+}
+
+// A hostile value costs its own list or picture and nothing else: the reader ends quickly and the good
+// product beside it loads.
+void tst_HostileInput::hostileValuesBesideAGoodProduct()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, warning);
+    QFETCH(int, pages);
+
+    QTemporaryDir dir;
+    QVERIFY(ZRTest::writeFile(dir.path(), QStringLiteral("hostile.xml"), content));
+    QVERIFY(ZRTest::writeFile(dir.path(), QStringLiteral("good.xml"), product({}).replace("hostile", "good")));
+    if (!warning.isEmpty())
+        QTest::ignoreMessage(QtWarningMsg, warning.constData());
+
+    QElapsedTimer timer;
+    timer.start();
+    const QHash<ZRProductType, ZRProductTypeDescription *> descriptions
+        = ZRProductTypeDescriptionReader(QDir(dir.path())).readDir();
+    const std::unique_ptr<ZRProductTypeDescription> good(descriptions.value(ZRProductType(QStringLiteral("good"))));
+    const std::unique_ptr<ZRProductTypeDescription> hostile(
+        descriptions.value(ZRProductType(QStringLiteral("hostile"))));
+    QVERIFY(good && good->isValid());
+    QVERIFY(hostile);
+    QCOMPARE(keptPages(*hostile), pages);
+    QVERIFY(spiralPicturesAreNull(*hostile));
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QStringLiteral("took %1 ms").arg(timer.elapsed())));
 }
 
 QTEST_GUILESS_MAIN(tst_HostileInput)

@@ -62,7 +62,7 @@ void tst_ZRPageRedirects::contentDrop()
     for (int i = 0; i < warnings; ++i)
         QTest::ignoreMessage(QtWarningMsg, "parse error");
     const ZRContentDropRedirectList list(parseElement(xml));
-    QCOMPARE(list.redirects(), redirects);
+    QCOMPARE(PageMap(list), redirects);
     for (int page = -1; page <= 10; ++page)
         QCOMPARE(list.targetPage(page), redirects.value(page, page));
 }
@@ -91,7 +91,7 @@ void tst_ZRPageRedirects::tiltRedirects()
     QFETCH(QString, xml);
     QFETCH(Redirects, redirects);
 
-    QCOMPARE(ZRPageTiltRedirectList(parseElement(xml)).redirects(), redirects);
+    QCOMPARE(Redirects(ZRPageTiltRedirectList(parseElement(xml))), redirects);
 }
 
 void tst_ZRPageRedirects::tiltFilters_data()
@@ -116,8 +116,8 @@ void tst_ZRPageRedirects::tiltFilters()
                                                                   "<rotationredirect from='2' to='1'/>"
                                                                   "<rotationredirect from='1' to='3' angleinvert='-1'/>"
                                                                   "</r>")));
-    QTEST(list.filterBySourcePage(page).redirects(), "bySource");
-    QTEST(list.filterByTargetPage(page).redirects(), "byTarget");
+    QTEST(Redirects(list.filterBySourcePage(page)), "bySource");
+    QTEST(Redirects(list.filterByTargetPage(page)), "byTarget");
 }
 
 void tst_ZRPageRedirects::tiltPageList_data()

@@ -12,8 +12,6 @@ private Q_SLOTS:
     void init();
     void pageList_data();
     void pageList();
-    void hugeRangeStopsTheList_data();
-    void hugeRangeStopsTheList();
     void group_data();
     void group();
     void groupList_data();
@@ -60,39 +58,6 @@ void tst_ZRProductionExtraPages::pageList()
     QDomElement element = document.createElement(QStringLiteral("target_pages"));
     element.appendChild(document.createTextNode(text));
     QCOMPARE(ZRProductionExtraPageGroup().decodeIntList(element), pages);
-}
-
-void tst_ZRProductionExtraPages::hugeRangeStopsTheList_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("warns");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("last");
-
-    // Listing this range used to take minutes and gigabytes.
-    QTest::newRow("range to the largest int") << "1, 0-2147483647, 5" << true << 1 << 1;
-    QTest::newRow("open range to the largest int") << "x-2147483647" << true << 0 << 0;
-    QTest::newRow("range filling the list") << "1-10000" << false << 10000 << 10000;
-    QTest::newRow("one page past the full list") << "1-10000, 5" << true << 10000 << 10000;
-    QTest::newRow("range past the full list") << "1-9999, 1-2, 3" << true << 9999 << 9999;
-}
-
-void tst_ZRProductionExtraPages::hugeRangeStopsTheList()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, warns);
-    QFETCH(int, count);
-    QFETCH(int, last);
-
-    if (warns)
-        QTest::ignoreMessage(QtWarningMsg, "Page list too long in the product description.");
-    QDomDocument document;
-    QDomElement element = document.createElement(QStringLiteral("target_pages"));
-    element.appendChild(document.createTextNode(text));
-    const QList<int> pages = ZRProductionExtraPageGroup().decodeIntList(element);
-    QCOMPARE(pages.size(), count);
-    if (count > 0)
-        QCOMPARE(pages.last(), last);
 }
 
 void tst_ZRProductionExtraPages::group_data()

@@ -322,7 +322,7 @@ void tst_ProductTypeDescription::subRecordsAreReadAndForwarded()
     QCOMPARE(int(d.conversionStrategy().value()), 2);
     QVERIFY(d.mustPaintZeRaLogoOnSpine());
     QCOMPARE(d.tiltAngle(), 90);
-    QCOMPARE(d.tiltRedirectForTargetPage(2).redirects().size(), 2);
+    QCOMPARE(d.tiltRedirectForTargetPage(2).size(), 2);
     QCOMPARE(d.contentDropRedirect(1), 2);
     const ZRPageContext leftContent { ZRPageType(ZRPageTypeContent), ZRPageAlignment(ZRPageAlignmentLeft) };
     QCOMPARE(

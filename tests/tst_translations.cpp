@@ -67,8 +67,8 @@ void tst_Translations::english_data()
     QTest::newRow("QObject preview title")
         << QUrlQuery(preview.url(false)).queryItemValue(QStringLiteral("title"), QUrl::FullyDecoded)
         << "Product preview";
-    QTest::newRow("ZRPageConstraint") << ZRPageConstraint(ZRPageType(QStringLiteral("spine"))).describe()
-                                      << "Page types: {spine} Alignment {}";
+    QTest::newRow("ZRPageConstraint diagnostic, untranslated")
+        << ZRPageConstraint(ZRPageType(QStringLiteral("spine"))).describe() << "SeitenTypen: {spine} Alignment {}";
     QTest::newRow("ZRPageBinding and ZRPaperType")
         << ZRPaperAndBinding(ZRPaperType(ZRPaperTypePremiumMatt), ZRPageBinding(ZRPageBindingLayflat)).describe()
         << "Layflat binding / Premium matte photo paper";

@@ -142,6 +142,10 @@ void tst_XMLLoader::limits_data()
     QTest::newRow("element declaration") << QByteArray("<!DOCTYPE TS [<!ELEMENT TS ANY>]><TS/>") << false;
     QTest::newRow("attribute list declaration") << QByteArray("<!DOCTYPE a [<!ATTLIST a b CDATA 'c'>]><a/>") << false;
     QTest::newRow("comment in internal subset") << QByteArray("<!DOCTYPE a [<!-- c -->]><a/>") << false;
+    const QByteArray elements = QByteArray("<b></b>").repeated(ZRXMLLimits::maxNodes - 2);
+    QTest::newRow("most nodes") << "<a x=''>" + elements + "</a>" << true;
+    QTest::newRow("one node more") << "<a x='' y=''>" + elements + "</a>" << false;
+    QTest::newRow("one node more, a comment") << "<a x=''>" + elements + "<!---->" + "</a>" << false;
     QTest::newRow("largest document") << documentOfSize(ZRXMLLimits::maxDocumentSize) << true;
     QTest::newRow("one byte larger") << documentOfSize(ZRXMLLimits::maxDocumentSize + 1) << false;
     QTest::newRow("empty") << QByteArray() << false;

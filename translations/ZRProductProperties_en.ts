@@ -395,13 +395,6 @@
     </message>
 </context>
 <context>
-    <name>ZRPageConstraint</name>
-    <message>
-        <source>SeitenTypen: {%1} Alignment {%2}</source>
-        <translation>Page types: {%1} Alignment {%2}</translation>
-    </message>
-</context>
-<context>
     <name>ZRPaperType</name>
     <message>
         <source>Fotopapier matt</source>

@@ -84,16 +84,25 @@ template<typename Char> bool startsWith(const Char *from, const Char *end, const
 }
 
 /**
- * False when a start tag has more attributes than allowed. The stream reader compares every
- * attribute of an element with every other one before it reports the element, so a tag with many
- * thousands of them takes minutes; they are counted here, one '=' outside quotes per attribute,
- * without parsing. Markup that is not well-formed is left to the reader to refuse.
+ * False when a start tag has more attributes than allowed, or the document more nodes. The stream
+ * reader compares every attribute of an element with every other one before it reports the element,
+ * so a tag with many thousands of them takes minutes; and a document of millions of tiny elements
+ * takes seconds and a gigabyte to build. Both are counted here without parsing: one node per start
+ * tag, comment, CDATA section and processing instruction, one attribute per '=' outside quotes.
+ * Markup that is not well-formed is left to the reader to refuse.
  */
-template<typename Char> bool attributeCountsWithinLimit(const Char *p, const Char *end)
+template<typename Char> bool markupWithinLimits(const Char *p, const Char *end)
 {
+    qint64 nodes = 0;
     while ((p = findChar(p, end, '<')) != end) {
         if (++p == end)
             break;
+        if (*p == '/') {
+            p = findChar(p, end, '>');
+            continue;
+        }
+        if (++nodes > ZRXMLLimits::maxNodes)
+            return false;
         if (*p == '!') {
             if (startsWith(p, end, "!--", 3)) {
                 p = skipPast(p + 3, end, "-->", 3);
@@ -117,7 +126,8 @@ template<typename Char> bool attributeCountsWithinLimit(const Char *p, const Cha
                     p = findChar(p + 1, end, char(*p));
                     if (p == end)
                         break;
-                } else if (*p == Char('=') && ++attributes > ZRXMLLimits::maxAttributes) {
+                } else if (*p == Char('=')
+                    && (++attributes > ZRXMLLimits::maxAttributes || ++nodes > ZRXMLLimits::maxNodes)) {
                     return false;
                 }
             }
@@ -126,7 +136,7 @@ template<typename Char> bool attributeCountsWithinLimit(const Char *p, const Cha
     return true;
 }
 
-bool attributeCountsWithinLimit(const QByteArray &content)
+bool markupWithinLimits(const QByteArray &content)
 {
     // Markup characters are single bytes in UTF-8 and in the 8-bit encodings; only documents in
     // UTF-16 or UTF-32 need decoding first.
@@ -140,11 +150,11 @@ bool attributeCountsWithinLimit(const QByteArray &content)
     case QStringConverter::Utf32BE:
         break;
     default:
-        return attributeCountsWithinLimit(content.cbegin(), content.cend());
+        return markupWithinLimits(content.cbegin(), content.cend());
     }
     QStringDecoder decoder(*encoding);
     const QString text = decoder.decode(content);
-    return attributeCountsWithinLimit(text.utf16(), text.utf16() + text.size());
+    return markupWithinLimits(text.utf16(), text.utf16() + text.size());
 }
 
 /** True for a document type without an internal subset, or with a blank one. */
@@ -280,7 +290,7 @@ QDomDocument ZRXMLLoader::loadDocument(const QFileInfo &file)
 
 QDomDocument ZRXMLLoader::loadDocument(const QByteArray &content)
 {
-    if (content.isEmpty() || content.size() > ZRXMLLimits::maxDocumentSize || !attributeCountsWithinLimit(content))
+    if (content.isEmpty() || content.size() > ZRXMLLimits::maxDocumentSize || !markupWithinLimits(content))
         return QDomDocument();
     return buildDocument(content);
 }

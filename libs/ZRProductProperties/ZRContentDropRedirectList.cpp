@@ -1,38 +1,31 @@
 #include "ZRContentDropRedirectList.h"
 
+#include "ZRPageListDecoder.h"
 #include "ZRXMLParser.h"
 
 ZRContentDropRedirectList::ZRContentDropRedirectList() = default;
 
 ZRContentDropRedirectList::ZRContentDropRedirectList(const QDomElement &element)
 {
+    qint64 pages = 0;
     for (QDomElement redirect = element.firstChildElement(QStringLiteral("contentredirect")); !redirect.isNull();
          redirect = redirect.nextSiblingElement(QStringLiteral("contentredirect"))) {
-        const QString from = ZRXMLParser::attribute(redirect, QStringLiteral("from"), QString(), true);
-        bool firstOk = false;
-        bool lastOk = false;
-        int first = 0;
-        int last = 0;
-        if (from.contains(QLatin1Char('-'))) {
-            const QStringList pieces = from.split(QLatin1Char('-'));
-            first = pieces.at(0).toInt(&firstOk, 10);
-            last = pieces.at(1).toInt(&lastOk, 10);
-        } else {
-            first = from.toInt(&firstOk, 10);
-            last = first;
-            lastOk = firstOk;
-        }
+        const std::optional<ZRPageRange> range
+            = ZRPageListDecoder::decodeRange(ZRXMLParser::attribute(redirect, QStringLiteral("from"), QString(), true));
         const int to = ZRXMLParser::intAttribute(redirect, QStringLiteral("to"), -1);
-
-        if (!firstOk || !lastOk || last < 0 || to < 0) {
+        if (!range || range->last < 0 || to < 0) {
             // The source location names the class, as the product data maintainers' tools expect.
             QMessageLogger("libs/ZRProductProperties/ZRContentDropRedirectList", __LINE__, Q_FUNC_INFO)
                 .warning("parse error");
             continue;
         }
-        // Counted in 64 bits so that a range ending at the largest int still terminates.
-        for (qint64 page = first; page <= last; ++page)
-            m_redirects.insert(int(page), to);
+        pages += range->size();
+        if (!ZRPageListDecoder::isWithinLimit(pages)) {
+            clear();
+            return;
+        }
+        for (qint64 page = range->first; page <= range->last; ++page)
+            insert(int(page), to);
     }
 }
 
@@ -40,15 +33,5 @@ ZRContentDropRedirectList::~ZRContentDropRedirectList() = default;
 
 int ZRContentDropRedirectList::targetPage(int page) const
 {
-    return m_redirects.value(page, page);
-}
-
-bool ZRContentDropRedirectList::operator==(const ZRContentDropRedirectList &other) const
-{
-    return m_redirects == other.m_redirects;
-}
-
-bool ZRContentDropRedirectList::operator!=(const ZRContentDropRedirectList &other) const
-{
-    return !(*this == other);
+    return value(page, page);
 }

@@ -2,7 +2,6 @@
 
 #include "ZRXMLBuilder.h"
 
-#include <QCoreApplication>
 #include <QDomElement>
 #include <QStringList>
 
@@ -97,7 +96,7 @@ QString ZRPageConstraintImpl::describe() const
     QStringList alignmentNames;
     for (const ZRPageAlignment &alignment : m_intendedAlignments)
         alignmentNames.append(alignment.encodeCSV());
-    return QCoreApplication::translate("ZRPageConstraint", "SeitenTypen: {%1} Alignment {%2}")
+    return QStringLiteral("SeitenTypen: {%1} Alignment {%2}")
         .arg(pageTypeNames.join(QLatin1String(", ")), alignmentNames.join(QLatin1String(", ")));
 }
 

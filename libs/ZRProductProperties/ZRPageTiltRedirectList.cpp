@@ -2,10 +2,13 @@
 
 #include "ZRXMLParser.h"
 
+#include <algorithm>
+#include <iterator>
+
 ZRPageTiltRedirectList::ZRPageTiltRedirectList() = default;
 
 ZRPageTiltRedirectList::ZRPageTiltRedirectList(const QList<ZRPageTiltRedirect> &redirects)
-    : m_redirects(redirects)
+    : QList<ZRPageTiltRedirect>(redirects)
 { }
 
 ZRPageTiltRedirectList::ZRPageTiltRedirectList(const QDomElement &element)
@@ -18,7 +21,7 @@ ZRPageTiltRedirectList::ZRPageTiltRedirectList(const QDomElement &element)
         const int angleInvert = ZRXMLParser::intAttribute(redirect, QStringLiteral("angleinvert"), 1);
         if (from < -1 || to < -1)
             continue;
-        m_redirects.append(ZRPageTiltRedirect(from, to, angleInvert));
+        append(ZRPageTiltRedirect(from, to, angleInvert));
     }
 }
 
@@ -26,30 +29,16 @@ ZRPageTiltRedirectList::~ZRPageTiltRedirectList() = default;
 
 ZRPageTiltRedirectList ZRPageTiltRedirectList::filterBySourcePage(int page) const
 {
-    QList<ZRPageTiltRedirect> result;
-    for (const ZRPageTiltRedirect &redirect : m_redirects) {
-        if (redirect.sourcePageNr() == page)
-            result.append(redirect);
-    }
-    return ZRPageTiltRedirectList(result);
+    ZRPageTiltRedirectList result;
+    std::copy_if(cbegin(), cend(), std::back_inserter(result),
+        [page](const ZRPageTiltRedirect &redirect) { return redirect.sourcePageNr() == page; });
+    return result;
 }
 
 ZRPageTiltRedirectList ZRPageTiltRedirectList::filterByTargetPage(int page) const
 {
-    QList<ZRPageTiltRedirect> result;
-    for (const ZRPageTiltRedirect &redirect : m_redirects) {
-        if (redirect.targetPageNr() == page)
-            result.append(redirect);
-    }
-    return ZRPageTiltRedirectList(result);
-}
-
-bool ZRPageTiltRedirectList::operator==(const ZRPageTiltRedirectList &other) const
-{
-    return m_redirects == other.m_redirects;
-}
-
-bool ZRPageTiltRedirectList::operator!=(const ZRPageTiltRedirectList &other) const
-{
-    return !(*this == other);
+    ZRPageTiltRedirectList result;
+    std::copy_if(cbegin(), cend(), std::back_inserter(result),
+        [page](const ZRPageTiltRedirect &redirect) { return redirect.targetPageNr() == page; });
+    return result;
 }

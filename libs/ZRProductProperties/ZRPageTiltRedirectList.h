@@ -10,7 +10,7 @@
 /**
  * The tilt redirects of a product, in document order.
  */
-class ZRPRODUCTPROPERTIES_EXPORT ZRPageTiltRedirectList
+class ZRPRODUCTPROPERTIES_EXPORT ZRPageTiltRedirectList : public QList<ZRPageTiltRedirect>
 {
 public:
     /** No redirects. */
@@ -27,15 +27,6 @@ public:
     ZRPageTiltRedirectList filterBySourcePage(int page) const;
     /** The redirects whose target page is @p page, in list order. */
     ZRPageTiltRedirectList filterByTargetPage(int page) const;
-
-    bool isEmpty() const { return m_redirects.isEmpty(); }
-    QList<ZRPageTiltRedirect> redirects() const { return m_redirects; }
-
-    bool operator==(const ZRPageTiltRedirectList &other) const;
-    bool operator!=(const ZRPageTiltRedirectList &other) const;
-
-private:
-    QList<ZRPageTiltRedirect> m_redirects;
 };
 
 #endif

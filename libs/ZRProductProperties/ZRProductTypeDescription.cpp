@@ -2,8 +2,8 @@
 
 #include "ZRDefaultTemplateKey.h"
 #include "ZRJigType.h"
+#include "ZRPageListDecoder.h"
 #include "ZRSurroundingKey.h"
-#include "ZRUserPageTiltConfig.h"
 #include "ZRXMLParser.h"
 
 #include <QDomNamedNodeMap>
@@ -24,7 +24,7 @@ QList<int> readIntList(const QDomElement &productElement, const QString &childNa
     const QDomElement child = productElement.firstChildElement(childName);
     if (child.isNull())
         return {};
-    return ZRUserPageTiltConfig::decodeIntList(child.text());
+    return ZRPageListDecoder::decode(child.text(), ZRPageListDecoder::NoRanges);
 }
 
 /** Appends the entries of @p pattern, starting again after its last entry, until @p count entries were added. */

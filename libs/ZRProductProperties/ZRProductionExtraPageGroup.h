@@ -31,13 +31,10 @@ public:
      * The pages of a list such as "1, 3-4, 10" in the text of @p element. Unlike the tilt page
      * lists, this syntax has ranges: "7-5" gives 5, 6, 7, and a range end that is not a number
      * counts as 0, so "-3" gives 0 to 3 and "x-2" gives 0 to 2. A single entry that is not a number
-     * is dropped. The list holds at most maxPages entries: at the first part that would take it past
-     * that, reading stops with the warning "Page list too long in the product description.".
+     * is dropped. A list of more than ZRXMLLimits::maxListPages pages gives none, with the warning
+     * "Page list too long in the product description.".
      */
     QList<int> decodeIntList(const QDomElement &element) const;
-
-    /** The most pages a list of target pages holds; far more than any product has. */
-    static constexpr int maxPages = 10000;
 
     bool operator==(const ZRProductionExtraPageGroup &other) const;
     bool operator!=(const ZRProductionExtraPageGroup &other) const;

@@ -1,12 +1,21 @@
 #include "ZRProductionExtraPageGroupList.h"
 
+#include "ZRPageListDecoder.h"
+
 ZRProductionExtraPageGroupList::ZRProductionExtraPageGroupList() = default;
 
 ZRProductionExtraPageGroupList::ZRProductionExtraPageGroupList(const QDomElement &element)
 {
+    qint64 pages = 0;
     for (QDomElement item = element.firstChildElement(QStringLiteral("item")); !item.isNull();
-         item = item.nextSiblingElement(QStringLiteral("item")))
+         item = item.nextSiblingElement(QStringLiteral("item"))) {
         m_groups.append(ZRProductionExtraPageGroup(item));
+        pages += m_groups.constLast().targetPages().size();
+        if (!ZRPageListDecoder::isWithinLimit(pages)) {
+            m_groups.clear();
+            return;
+        }
+    }
 }
 
 ZRProductionExtraPageGroupList::~ZRProductionExtraPageGroupList() = default;

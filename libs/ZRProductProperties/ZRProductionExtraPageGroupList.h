@@ -15,7 +15,11 @@ class ZRPRODUCTPROPERTIES_EXPORT ZRProductionExtraPageGroupList
 public:
     /** No groups. */
     ZRProductionExtraPageGroupList();
-    /** Reads one group from every "item" child of @p element; a null element gives no groups. */
+    /**
+     * Reads one group from every "item" child of @p element; a null element gives no groups. Groups
+     * of more than ZRXMLLimits::maxListPages target pages in all are refused as a whole, with the
+     * warning "Page list too long in the product description.".
+     */
     explicit ZRProductionExtraPageGroupList(const QDomElement &element);
     virtual ~ZRProductionExtraPageGroupList();
 

@@ -2,6 +2,7 @@
 
 #include "ZRCSSSkinManager.h"
 #include "ZRDirectoryConfig.h"
+#include "ZRXMLLimits.h"
 #include "ZRXMLParser.h"
 
 #include <QMutex>
@@ -16,6 +17,12 @@ namespace {
 QString defaultLoopImageName()
 {
     return QStringLiteral("spiralbinding-one-loop-vertical.png");
+}
+
+/** True for an image of @p width x @p height that is not empty and within the pixel budget. */
+bool isDrawable(qint64 width, qint64 height)
+{
+    return width > 0 && height > 0 && width <= ZRXMLLimits::maxImagePixels / height;
 }
 } // namespace
 
@@ -83,7 +90,8 @@ QImage ZRSpiralConfig::bindingLoopImage() const
 {
     if (m_loopImage.isNull()) {
         const QDir directory = ZRSingleton<ZRDirectoryConfig>::instance()->glimmerThumbnailsDirectory(false);
-        const QImage loaded(directory.absoluteFilePath(m_loopImageName));
+        const QImage loaded
+            = isDrawable(m_loopWidth, m_loopHeight) ? QImage(directory.absoluteFilePath(m_loopImageName)) : QImage();
         if (!loaded.isNull())
             m_loopImage
                 = loaded.scaled(QSize(m_loopWidth, m_loopHeight), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -96,7 +104,7 @@ QImage ZRSpiralConfig::spiralBindingLoopHorizontal(int count) const
     const QImage loop = bindingLoopImage();
     const qint64 exactWidth = (qint64(count) - 1) * m_loopWidth + qint64(count) * loop.width();
     const int height = loop.height();
-    if (exactWidth <= 0 || exactWidth > std::numeric_limits<int>::max() || height <= 0)
+    if (!isDrawable(exactWidth, height))
         return QImage();
     const int width = int(exactWidth);
 
@@ -144,8 +152,7 @@ QImage ZRSpiralConfig::spiralHookImage() const
     static QMutex lastBackgroundColorMutex;
 
     const QColor color = ZRSingleton<ZRCSSSkinManager>::instance()->backgroundColor();
-    // A hook too high to double within int cannot be drawn.
-    if (m_hookHeight > std::numeric_limits<int>::max() / 2 || m_hookHeight < std::numeric_limits<int>::min() / 2)
+    if (!isDrawable(m_hookWidth, 2 * qint64(m_hookHeight)))
         return QImage();
     const QSize size(m_hookWidth, 2 * m_hookHeight);
     bool redraw = m_hookImage.isNull() || m_hookImage.size() != size;

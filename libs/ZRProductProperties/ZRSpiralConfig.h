@@ -53,12 +53,13 @@ public:
 
     /**
      * The loop picture from the thumbnails directory, scaled to loop width by loop height. A null
-     * image when it cannot be loaded.
+     * image when it cannot be loaded or the loop has more than ZRXMLLimits::maxImagePixels pixels.
      */
     QImage bindingLoopImage() const;
     /**
      * A horizontal strip of @p count loops on a transparent background, leaving out the loops that
-     * fall into the hook gap in the middle. A null image for no loops or a missing loop picture.
+     * fall into the hook gap in the middle. A null image for no loops, a missing loop picture or a
+     * strip of more than ZRXMLLimits::maxImagePixels pixels.
      */
     QImage spiralBindingLoopHorizontal(int count) const;
     /** The horizontal strip turned by 90 degrees. */
@@ -68,7 +69,7 @@ public:
     /**
      * An ellipse in the skin's background colour covering hook width by twice the hook height, on a
      * transparent background. It is redrawn when the hook size or the skin colour has changed. A null
-     * image when the hook has no area.
+     * image when the hook has no area or more than ZRXMLLimits::maxImagePixels pixels.
      */
     QImage spiralHookImage() const;
 

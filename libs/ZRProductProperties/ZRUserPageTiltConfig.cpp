@@ -1,5 +1,6 @@
 #include "ZRUserPageTiltConfig.h"
 
+#include "ZRPageListDecoder.h"
 #include "ZRXMLParser.h"
 
 ZRUserPageTiltConfig::ZRUserPageTiltConfig() = default;
@@ -13,16 +14,7 @@ ZRUserPageTiltConfig::~ZRUserPageTiltConfig() = default;
 
 QList<int> ZRUserPageTiltConfig::decodeIntList(const QString &text)
 {
-    QList<int> result;
-    const QString simplified = text.simplified();
-    const QList<QStringView> pieces = QStringView(simplified).split(u',');
-    for (const QStringView piece : pieces) {
-        bool ok = false;
-        const int value = piece.toInt(&ok, 10);
-        if (ok)
-            result.append(value);
-    }
-    return result;
+    return ZRPageListDecoder::decode(text, ZRPageListDecoder::NoRanges);
 }
 
 bool ZRUserPageTiltConfig::isPageRotationDisabled(int page) const

@@ -25,7 +25,8 @@ public:
     /**
      * The page numbers of a comma-separated list such as "1, 3, 5", in the given order. Pieces that
      * are not numbers are dropped. Unlike the page lists of production extra pages, this list has
-     * no ranges: "3-5" is dropped, not expanded.
+     * no ranges: "3-5" is dropped, not expanded. A list of more than ZRXMLLimits::maxListPages pages
+     * gives none, with the warning "Page list too long in the product description.".
      */
     static QList<int> decodeIntList(const QString &text);
 

@@ -348,7 +348,7 @@ Record Descriptions::product(const ZRProductTypeDescription &description, bool l
         surroundings.append(surroundingRecord(surrounding));
 
     QList<Record> tiltRedirects;
-    const QList<ZRPageTiltRedirect> redirects = description.tiltRedirects().redirects();
+    const ZRPageTiltRedirectList redirects = description.tiltRedirects();
     for (const ZRPageTiltRedirect &redirect : redirects) {
         Record record;
         record.add(QStringLiteral("from"), redirect.sourcePageNr())
@@ -357,7 +357,7 @@ Record Descriptions::product(const ZRProductTypeDescription &description, bool l
         tiltRedirects.append(record);
     }
     QList<Record> contentRedirects;
-    const QMap<int, int> drops = description.contentDropRedirects().redirects();
+    const ZRContentDropRedirectList drops = description.contentDropRedirects();
     for (auto it = drops.cbegin(); it != drops.cend(); ++it) {
         Record record;
         record.add(QStringLiteral("from"), it.key()).add(QStringLiteral("to"), it.value());
