@@ -1,9 +1,11 @@
 #include "ZRXMLLoader.h"
 
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLLimits.h"
 
 #include <QDomDocument>
 #include <QFile>
+#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
@@ -15,6 +17,11 @@
 
 namespace {
 
+QString sizeLimitText()
+{
+    return QStringLiteral("larger than the limit of %1 bytes (maxDocumentSize)").arg(ZRXMLLimits::maxDocumentSize);
+}
+
 bool isAcceptableFile(const struct stat &status)
 {
     return S_ISREG(status.st_mode) && status.st_size <= ZRXMLLimits::maxDocumentSize;
@@ -24,20 +31,32 @@ bool isAcceptableFile(const struct stat &status)
  * The content of the regular file @p path (links followed), or an empty array for anything else: a
  * directory, FIFO, socket or device, a file beyond the size limit, or one that cannot be read.
  */
-QByteArray readRegularFile(const QString &path)
+QByteArray readRegularFile(const QString &path, QString *problem)
 {
     const QByteArray nativePath = QFile::encodeName(path);
     struct stat status;
     // Looked at before opening: opening a FIFO waits for a writer, opening a device may act on it.
-    if (::stat(nativePath.constData(), &status) != 0 || !isAcceptableFile(status))
+    if (::stat(nativePath.constData(), &status) != 0) {
+        *problem = QStringLiteral("cannot read the file: %1").arg(QString::fromLocal8Bit(strerror(errno)));
         return QByteArray();
+    }
+    if (!S_ISREG(status.st_mode)) {
+        *problem = QStringLiteral("not a regular file");
+        return QByteArray();
+    }
+    if (!isAcceptableFile(status)) {
+        *problem = sizeLimitText();
+        return QByteArray();
+    }
     int fd;
     do {
         // Non-blocking, so a FIFO put in the file's place after the check cannot stall us.
         fd = ::open(nativePath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     } while (fd < 0 && errno == EINTR);
-    if (fd < 0)
+    if (fd < 0) {
+        *problem = QStringLiteral("cannot read the file: %1").arg(QString::fromLocal8Bit(strerror(errno)));
         return QByteArray();
+    }
 
     QByteArray content;
     if (::fstat(fd, &status) == 0 && isAcceptableFile(status)) {
@@ -58,6 +77,8 @@ QByteArray readRegularFile(const QString &path)
             }
             length += count;
         }
+        if (length > ZRXMLLimits::maxDocumentSize)
+            *problem = sizeLimitText();
         content.truncate(length > ZRXMLLimits::maxDocumentSize ? 0 : length);
     }
     ::close(fd);
@@ -83,15 +104,63 @@ template<typename Char> bool startsWith(const Char *from, const Char *end, const
         && std::equal(prefix, prefix + length, from, [](char a, Char b) { return Char(a) == b; });
 }
 
+QString sizeLimitText();
+
+/** Why a document is refused. */
+enum class Refusal
+{
+    None,
+    Size,
+    Attributes,
+    Nodes,
+    Depth,
+    ValueLength,
+    Declarations,
+    NotWellFormed
+};
+
+/** Why a document was refused, and where. */
+struct Outcome
+{
+    Refusal refusal = Refusal::None;
+    QString message;
+    int line = 0;
+    int column = 0;
+};
+
+/** The limit a refusal is about, named as in ZRXMLLimits. */
+QString refusalText(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::Size:
+        return sizeLimitText();
+    case Refusal::Attributes:
+        return QStringLiteral("an element has more than %1 attributes (maxAttributes)").arg(ZRXMLLimits::maxAttributes);
+    case Refusal::Nodes:
+        return QStringLiteral("more than %1 nodes (maxNodes)").arg(ZRXMLLimits::maxNodes);
+    case Refusal::Depth:
+        return QStringLiteral("elements nested deeper than %1 levels (maxDepth)").arg(ZRXMLLimits::maxDepth);
+    case Refusal::ValueLength:
+        return QStringLiteral("a text or value longer than %1 characters (maxValueLength)")
+            .arg(ZRXMLLimits::maxValueLength);
+    case Refusal::Declarations:
+        return QStringLiteral("a document type with declarations, which are not read");
+    case Refusal::None:
+    case Refusal::NotWellFormed:
+        break;
+    }
+    return QString();
+}
+
 /**
- * False when a start tag has more attributes than allowed, or the document more nodes. The stream
+ * Refuses a start tag with more attributes than allowed, or a document with more nodes. The stream
  * reader compares every attribute of an element with every other one before it reports the element,
  * so a tag with many thousands of them takes minutes; and a document of millions of tiny elements
  * takes seconds and a gigabyte to build. Both are counted here without parsing: one node per start
  * tag, comment, CDATA section and processing instruction, one attribute per '=' outside quotes.
  * Markup that is not well-formed is left to the reader to refuse.
  */
-template<typename Char> bool markupWithinLimits(const Char *p, const Char *end)
+template<typename Char> Refusal markupWithinLimits(const Char *p, const Char *end)
 {
     qint64 nodes = 0;
     while ((p = findChar(p, end, '<')) != end) {
@@ -102,7 +171,7 @@ template<typename Char> bool markupWithinLimits(const Char *p, const Char *end)
             continue;
         }
         if (++nodes > ZRXMLLimits::maxNodes)
-            return false;
+            return Refusal::Nodes;
         if (*p == '!') {
             if (startsWith(p, end, "!--", 3)) {
                 p = skipPast(p + 3, end, "-->", 3);
@@ -126,17 +195,19 @@ template<typename Char> bool markupWithinLimits(const Char *p, const Char *end)
                     p = findChar(p + 1, end, char(*p));
                     if (p == end)
                         break;
-                } else if (*p == Char('=')
-                    && (++attributes > ZRXMLLimits::maxAttributes || ++nodes > ZRXMLLimits::maxNodes)) {
-                    return false;
+                } else if (*p == Char('=')) {
+                    if (++attributes > ZRXMLLimits::maxAttributes)
+                        return Refusal::Attributes;
+                    if (++nodes > ZRXMLLimits::maxNodes)
+                        return Refusal::Nodes;
                 }
             }
         }
     }
-    return true;
+    return Refusal::None;
 }
 
-bool markupWithinLimits(const QByteArray &content)
+Refusal markupWithinLimits(const QByteArray &content)
 {
     // Markup characters are single bytes in UTF-8 and in the 8-bit encodings; only documents in
     // UTF-16 or UTF-32 need decoding first.
@@ -193,9 +264,16 @@ QString xmlDeclaration(const QXmlStreamReader &reader)
  * XML declaration becomes an "xml" processing instruction. A refused document is dropped while it
  * is still shallow, as destroying a DOM recurses once per level.
  */
-QDomDocument buildDocument(const QByteArray &content)
+QDomDocument buildDocument(const QByteArray &content, Outcome &outcome)
 {
     QXmlStreamReader reader(content);
+    const auto refuse = [&reader, &outcome](Refusal refusal) {
+        outcome.refusal = refusal;
+        outcome.message = refusalText(refusal);
+        outcome.line = int(reader.lineNumber());
+        outcome.column = int(reader.columnNumber()) + 1;
+        return QDomDocument();
+    };
     reader.setNamespaceProcessing(false);
     QDomDocument document { QString() };
     QDomNode current = document;
@@ -209,7 +287,7 @@ QDomDocument buildDocument(const QByteArray &content)
             break;
         case QXmlStreamReader::DTD: {
             if (!isBareDocumentType(reader))
-                return QDomDocument();
+                return refuse(Refusal::Declarations);
             // The document type is fixed when a document is made; what came before it moves over.
             QDomDocument typed(QDomImplementation().createDocumentType(
                 reader.dtdName().toString(), reader.dtdPublicId().toString(), reader.dtdSystemId().toString()));
@@ -221,12 +299,12 @@ QDomDocument buildDocument(const QByteArray &content)
         }
         case QXmlStreamReader::StartElement: {
             if (++depth > ZRXMLLimits::maxDepth)
-                return QDomDocument();
+                return refuse(Refusal::Depth);
             QDomElement element = document.createElement(reader.qualifiedName().toString());
             const QXmlStreamAttributes attributes = reader.attributes();
             for (const QXmlStreamAttribute &attribute : attributes) {
                 if (attribute.value().size() > ZRXMLLimits::maxValueLength)
-                    return QDomDocument();
+                    return refuse(Refusal::ValueLength);
                 element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
             }
             current.appendChild(element);
@@ -242,7 +320,7 @@ QDomDocument buildDocument(const QByteArray &content)
             if (reader.isWhitespace() || (!reader.isCDATA() && reader.text().trimmed().isEmpty()))
                 break;
             if (reader.text().size() > ZRXMLLimits::maxValueLength)
-                return QDomDocument();
+                return refuse(Refusal::ValueLength);
             if (reader.isCDATA())
                 current.appendChild(document.createCDATASection(reader.text().toString()));
             else
@@ -250,12 +328,12 @@ QDomDocument buildDocument(const QByteArray &content)
             break;
         case QXmlStreamReader::Comment:
             if (reader.text().size() > ZRXMLLimits::maxValueLength)
-                return QDomDocument();
+                return refuse(Refusal::ValueLength);
             current.appendChild(document.createComment(reader.text().toString()));
             break;
         case QXmlStreamReader::ProcessingInstruction:
             if (reader.processingInstructionData().size() > ZRXMLLimits::maxValueLength)
-                return QDomDocument();
+                return refuse(Refusal::ValueLength);
             current.appendChild(document.createProcessingInstruction(
                 reader.processingInstructionTarget().toString(), reader.processingInstructionData().toString()));
             break;
@@ -266,9 +344,64 @@ QDomDocument buildDocument(const QByteArray &content)
             break;
         }
     }
-    if (reader.hasError())
+    if (reader.hasError()) {
+        refuse(Refusal::NotWellFormed);
+        outcome.message = reader.errorString();
         return QDomDocument();
+    }
     return document;
+}
+
+/** The encoding that the XML declaration of @p content names; UTF-8 when it names none that is known. */
+QStringConverter::Encoding declaredEncoding(const QByteArray &content)
+{
+    static const QRegularExpression declaration(QStringLiteral("^<\\?xml[^>]*encoding\\s*=\\s*[\"']([A-Za-z0-9._-]+)"));
+    const QRegularExpressionMatch match = declaration.match(QString::fromLatin1(content.left(200)));
+    if (!match.hasMatch())
+        return QStringConverter::Utf8;
+    return QStringConverter::encodingForName(match.captured(1).toLatin1().constData()).value_or(QStringConverter::Utf8);
+}
+
+/**
+ * The document of @p content, or a null one when it is refused; @p file names it in findings. With
+ * a diagnostics collector active, a refusal is reported, and the document is the one
+ * QDomDocument::setContent() makes of the same content, which knows where its elements are.
+ */
+QDomDocument loadDocument(const QByteArray &content, const QString &file, const QString &readProblem)
+{
+    Outcome outcome;
+    if (!readProblem.isEmpty())
+        outcome = { Refusal::Size, readProblem };
+    else if (content.isEmpty())
+        outcome = { Refusal::NotWellFormed, QStringLiteral("the file is empty") };
+    else if (content.size() > ZRXMLLimits::maxDocumentSize)
+        outcome = { Refusal::Size, refusalText(Refusal::Size) };
+    else if (const Refusal refusal = markupWithinLimits(content); refusal != Refusal::None)
+        outcome = { refusal, refusalText(refusal) };
+    QDomDocument document = outcome.message.isEmpty() ? buildDocument(content, outcome) : QDomDocument();
+    if (!ZRXMLDiagnostics::isActive())
+        return document;
+    if (document.isNull()) {
+        ZRXMLFinding finding;
+        finding.severity = ZRXMLFinding::Error;
+        finding.rule = outcome.refusal == Refusal::NotWellFormed ? QStringLiteral("not-well-formed")
+                                                                 : QStringLiteral("limit-exceeded");
+        if (!readProblem.isEmpty())
+            finding.rule = QStringLiteral("unreadable-file");
+        finding.message = outcome.message;
+        finding.file = file;
+        finding.line = outcome.line;
+        finding.column = outcome.column;
+        ZRXMLDiagnostics::report(finding);
+        return document;
+    }
+    QDomDocument positioned;
+    if (!positioned.setContent(content))
+        return document;
+    const std::optional<QStringConverter::Encoding> encoding = QStringConverter::encodingForData(content, u'<');
+    QStringDecoder decoder(encoding.value_or(declaredEncoding(content)));
+    ZRXMLDiagnostics::addSource(positioned, file, decoder.decode(content));
+    return positioned;
 }
 
 } // namespace
@@ -285,12 +418,12 @@ QDomElement ZRXMLLoader::loadDocumentElement(const QByteArray &content)
 
 QDomDocument ZRXMLLoader::loadDocument(const QFileInfo &file)
 {
-    return loadDocument(readRegularFile(file.absoluteFilePath()));
+    QString problem;
+    const QByteArray content = readRegularFile(file.absoluteFilePath(), &problem);
+    return ::loadDocument(content, file.filePath(), problem);
 }
 
 QDomDocument ZRXMLLoader::loadDocument(const QByteArray &content)
 {
-    if (content.isEmpty() || content.size() > ZRXMLLimits::maxDocumentSize || !markupWithinLimits(content))
-        return QDomDocument();
-    return buildDocument(content);
+    return ::loadDocument(content, QString(), QString());
 }

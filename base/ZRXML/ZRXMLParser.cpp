@@ -1,5 +1,7 @@
 #include "ZRXMLParser.h"
 
+#include "ZRXMLDiagnostics.h"
+
 #include <optional>
 
 namespace {
@@ -74,7 +76,64 @@ double toDouble(const QDomAttr &attr, double defaultValue)
 {
     return attr.isNull() ? defaultValue : toDouble(attr.value(), defaultValue);
 }
+
+enum class Form
+{
+    Integer,
+    Angle,
+    Decimal,
+    Boolean
+};
+
+bool isWellFormed(QStringView text, Form form)
+{
+    bool ok = false;
+    switch (form) {
+    case Form::Integer:
+    case Form::Angle:
+        static_cast<void>(text.trimmed().toInt(&ok));
+        return ok;
+    case Form::Decimal:
+        if (plainDecimal(text.trimmed()))
+            return true;
+        static_cast<void>(text.trimmed().toDouble(&ok));
+        return ok;
+    case Form::Boolean:
+        return ZRXMLParser::toBool(text, false) == ZRXMLParser::toBool(text, true);
+    }
+    return false;
 }
+
+/** Reports a present value of @p node (an attribute or an element with text) that is not of @p form. */
+void checkForm(const QDomNode &node, const QString &value, Form form, const QString &defaultText)
+{
+    if (node.isNull() || isWellFormed(value, form))
+        return;
+    static const char *const rules[] = { "not-a-number", "not-an-angle", "not-a-number", "not-a-boolean" };
+    static const char *const kinds[] = { "a whole number", "an angle in whole degrees", "a number", "a boolean" };
+    const QString name = node.isAttr() ? node.nodeName() : QLatin1Char('<') + node.nodeName() + QLatin1Char('>');
+    ZRXMLDiagnostics::report(ZRXMLFinding::Warning, QLatin1String(rules[int(form)]),
+        QStringLiteral("%1 '%2' is not %3; %4 is used").arg(name, value, QLatin1String(kinds[int(form)]), defaultText),
+        node, form == Form::Boolean ? QStringLiteral("one of true, false, yes, no, 1, 0") : QString());
+}
+
+void checkForm(const QDomAttr &attr, Form form, const QString &defaultText)
+{
+    if (ZRXMLDiagnostics::isActive() && !attr.isNull())
+        checkForm(attr, attr.value(), form, defaultText);
+}
+
+void checkForm(const QDomElement &element, const QString &name, Form form, const QString &defaultText)
+{
+    if (ZRXMLDiagnostics::isActive() && element.hasAttribute(name))
+        checkForm(findAttribute(element.attributes(), name), form, defaultText);
+}
+
+QString boolText(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+} // namespace
 
 QString ZRXMLParser::attribute(const QDomElement &element, const QString &name, const QString &defaultValue,
                                bool defaultIfMissing)
@@ -103,6 +162,7 @@ bool ZRXMLParser::toBool(QStringView text, bool defaultValue)
 
 bool ZRXMLParser::boolAttribute(const QDomElement &element, const QString &name, bool defaultValue)
 {
+    checkForm(element, name, Form::Boolean, boolText(defaultValue));
     // A missing attribute reads as an empty text, which is no boolean either.
     return toBool(element.attribute(name), defaultValue);
 }
@@ -110,17 +170,21 @@ bool ZRXMLParser::boolAttribute(const QDomElement &element, const QString &name,
 bool ZRXMLParser::boolAttribute(const QDomNamedNodeMap &attributes, const QString &name, bool defaultValue)
 {
     const QDomAttr attr = findAttribute(attributes, name);
+    checkForm(attr, Form::Boolean, boolText(defaultValue));
     return attr.isNull() ? defaultValue : toBool(attr.value(), defaultValue);
 }
 
 int ZRXMLParser::intAttribute(const QDomElement &element, const QString &name, int defaultValue)
 {
+    checkForm(element, name, Form::Integer, QString::number(defaultValue));
     return toInt(element.attribute(name), defaultValue);
 }
 
 int ZRXMLParser::intAttribute(const QDomNamedNodeMap &attributes, const QString &name, int defaultValue)
 {
-    return toInt(findAttribute(attributes, name), defaultValue);
+    const QDomAttr attr = findAttribute(attributes, name);
+    checkForm(attr, Form::Integer, QString::number(defaultValue));
+    return toInt(attr, defaultValue);
 }
 
 int ZRXMLParser::intText(const QDomNode &node, const QString &childName, int defaultValue)
@@ -129,7 +193,10 @@ int ZRXMLParser::intText(const QDomNode &node, const QString &childName, int def
     if (child.isNull())
         return defaultValue;
     bool ok = false;
-    const int value = QStringView(child.text()).trimmed().toInt(&ok);
+    const QString text = child.text();
+    const int value = QStringView(text).trimmed().toInt(&ok);
+    if (!ok && ZRXMLDiagnostics::isActive())
+        checkForm(child, text, Form::Integer, QString::number(defaultValue));
     return ok ? value : defaultValue;
 }
 
@@ -137,12 +204,14 @@ int ZRXMLParser::readAngle(const QDomElement &element, const QString &name, int 
 {
     if (element.isNull())
         return defaultValue;
+    checkForm(element, name, Form::Angle, QString::number(defaultValue));
     return toInt(element.attribute(name), defaultValue);
 }
 
 ZRDistance ZRXMLParser::readDistance(const QDomElement &element, const QString &name, double defaultValue,
                                      const ZRDistanceUnit &unit)
 {
+    checkForm(element, name, Form::Decimal, QString::number(defaultValue));
     return ZRDistance(toDouble(element.attribute(name), defaultValue), unit);
 }
 
@@ -154,6 +223,8 @@ QRect ZRXMLParser::readRect(const QDomNamedNodeMap &attributes)
     const QDomAttr h = findAttribute(attributes, QStringLiteral("height"));
     if (x.isNull() && y.isNull() && w.isNull() && h.isNull())
         return QRect();
+    for (const QDomAttr &attr : { x, y, w, h })
+        checkForm(attr, Form::Integer, QStringLiteral("0"));
     return QRect(toInt(x, 0), toInt(y, 0), toInt(w, 0), toInt(h, 0));
 }
 
@@ -165,11 +236,15 @@ QRectF ZRXMLParser::readRectF(const QDomNamedNodeMap &attributes)
     const QDomAttr h = findAttribute(attributes, QStringLiteral("height"));
     if (x.isNull() && y.isNull() && w.isNull() && h.isNull())
         return QRectF();
+    for (const QDomAttr &attr : { x, y, w, h })
+        checkForm(attr, Form::Decimal, QStringLiteral("0"));
     return QRectF(toDouble(x, 0.0), toDouble(y, 0.0), toDouble(w, 0.0), toDouble(h, 0.0));
 }
 
 QSize ZRXMLParser::readSize(const QDomElement &element)
 {
+    checkForm(element, QStringLiteral("width"), Form::Integer, QStringLiteral("-1"));
+    checkForm(element, QStringLiteral("height"), Form::Integer, QStringLiteral("-1"));
     return QSize(toInt(element.attribute(QStringLiteral("width")), -1),
                  toInt(element.attribute(QStringLiteral("height")), -1));
 }
@@ -177,6 +252,9 @@ QSize ZRXMLParser::readSize(const QDomElement &element)
 QVector3D ZRXMLParser::readVector3D(const QDomNamedNodeMap &attributes, const QString &xName, const QString &yName,
                                     const QString &zName, double xDefault, double yDefault, double zDefault)
 {
+    checkForm(findAttribute(attributes, xName), Form::Decimal, QString::number(xDefault));
+    checkForm(findAttribute(attributes, yName), Form::Decimal, QString::number(yDefault));
+    checkForm(findAttribute(attributes, zName), Form::Decimal, QString::number(zDefault));
     return QVector3D(float(toDouble(findAttribute(attributes, xName), xDefault)),
                      float(toDouble(findAttribute(attributes, yName), yDefault)),
                      float(toDouble(findAttribute(attributes, zName), zDefault)));
