@@ -13,7 +13,8 @@ cd "$(dirname "$0")/.."
 
 mode=${1:-address}
 shift || true
-bash scripts/bootstrap.sh clang-14 libclang-rt-14-dev
+# libc6-dbg names glibc's internal functions in the reports; scripts/sanitizers/tsan.supp matches one.
+bash scripts/bootstrap.sh clang-14 libclang-rt-14-dev libc6-dbg
 export ZR_CMAKE_ARGS="${ZR_CMAKE_ARGS:-} -DCMAKE_CXX_COMPILER=clang++-14 -DZR_BUILD_BENCHMARKS=OFF"
 export QT_QPA_PLATFORM=offscreen
 

@@ -83,6 +83,7 @@ QString ZRThematicCategoryRegistry::visibleName(const int &key) const
 
 void ZRThematicCategoryRegistry::setVisibleName(const int &key, const QString &name)
 {
+    QMutexLocker locker(&mutex);
     visibleNames.insert(key, name.isEmpty() ? translatedName(internalNames.value(key)) : name);
 }
 

@@ -40,7 +40,7 @@ public:
     /**
      * Replaces the visible name of @p key; an empty @p name restores the translation of the internal
      * name in the current locale. The old visible name keeps finding the key, the new one does not.
-     * Not synchronised with lookups: callers that rename while other threads look up serialise this.
+     * Takes the registry's lock like key(), so a rename may run while other threads look up or add names.
      */
     void setVisibleName(const int &key, const QString &name);
     /** Every key handed out so far, in ascending order. */
