@@ -14,9 +14,9 @@ namespace {
 QTemporaryDir *resources = nullptr;
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    FuzzSupport::quietMessages();
+    FuzzSupport::initialize(argc, argv);
     // Lives until the process ends, like the directory configuration that points at it.
     resources = new QTemporaryDir;
     if (!resources->isValid())
@@ -27,6 +27,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
+    const FuzzSupport::RunningInput running(data, size);
     QFile file(resources->filePath(QStringLiteral("colors.xml")));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         std::abort();

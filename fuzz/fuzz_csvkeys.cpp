@@ -76,14 +76,15 @@ constexpr RoundTrip tables[] = {
 };
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    FuzzSupport::quietMessages();
+    FuzzSupport::initialize(argc, argv);
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
+    const FuzzSupport::RunningInput running(data, size);
     FuzzSupport::Reader input(data, size);
     const RoundTrip roundTrip = tables[input.byte() % std::size(tables)];
     roundTrip(input.rest());

@@ -113,14 +113,15 @@ void queryClassificationAndPreview(const ZRProductTypeDescription &description)
 }
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    FuzzSupport::quietMessages();
+    FuzzSupport::initialize(argc, argv);
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
+    const FuzzSupport::RunningInput running(data, size);
     const QDomElement root = ZRXMLLoader::loadDocumentElement(FuzzSupport::bytes(data, size));
     if (root.isNull())
         return 0;

@@ -4,14 +4,15 @@
 
 #include "ZRSurroundingDescription.h"
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    FuzzSupport::quietMessages();
+    FuzzSupport::initialize(argc, argv);
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
+    const FuzzSupport::RunningInput running(data, size);
     const QString text = FuzzSupport::text(data, size);
     const QList<QRect> mask = ZRSurroundingDescription::parseMask(text);
     FuzzSupport::check(mask.size() <= text.count(QLatin1Char(';')) + 1, "at most one rectangle per part");

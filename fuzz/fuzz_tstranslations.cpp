@@ -16,9 +16,9 @@ namespace {
 constexpr int lookedUpSources = 32;
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
-    FuzzSupport::quietMessages();
+    FuzzSupport::initialize(argc, argv);
     // No translation files: a document that cannot be read makes the registry scan an empty directory.
     static QTemporaryDir emptyDirectory;
     if (!emptyDirectory.isValid())
@@ -30,6 +30,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
+    const FuzzSupport::RunningInput running(data, size);
     const QByteArray document(reinterpret_cast<const char *>(data), qsizetype(size));
     ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setThematicTranslations(document);
     // A registry of its own for every input: the constructor reads the document (init(), initFromZIP()).
