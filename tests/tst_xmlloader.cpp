@@ -1,4 +1,7 @@
+#include "ZRProductTypeDescription.h"
+#include "ZRProductTypeDescriptionReader.h"
 #include "ZRTestSupport.h"
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLLimits.h"
 #include "ZRXMLLoader.h"
 
@@ -79,6 +82,10 @@ private slots:
     void limits_data();
     void limits();
     void deepDocumentsOnSmallStack();
+    void findings_data();
+    void findings();
+    void samplesHaveNoFindings_data();
+    void samplesHaveNoFindings();
 };
 
 void tst_XMLLoader::sameDomAsSetContent_data()
@@ -182,6 +189,79 @@ void tst_XMLLoader::deepDocumentsOnSmallStack()
     QVERIFY(thread->wait());
     QCOMPARE(depth, ZRXMLLimits::maxDepth);
     QVERIFY(deepRefused);
+}
+
+void tst_XMLLoader::findings_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("text"); // part of the message or the suggestion
+    QTest::newRow("unknown attribute, second line of the tag")
+        << QByteArray("<products>\n  <product name='p'\n     colour='red'/>\n</products>") << "unknown-attribute" << 3
+        << 6 << "colour";
+    QTest::newRow("unknown element") << QByteArray("<products><product>\n  <defualts/></product></products>")
+                                     << "unknown-element" << 2 << 3 << "did you mean 'defaults'?";
+    QTest::newRow("malformed number") << QByteArray("<products><product safetymargin='5x'/></products>")
+                                      << "not-a-number" << 1 << 20 << "'5x' is not a whole number";
+    QTest::newRow("unknown key") << QByteArray(
+        "<products><product><pages>cover_front, titel</pages></product></products>")
+                                 << "unknown-key" << 1 << 20 << "did you mean 'title'?";
+    QTest::newRow("dropped page") << QByteArray("<products><product>\n<productionnumbering>1,x</productionnumbering>"
+                                                "</product></products>")
+                                  << "dropped-page" << 2 << 1 << "'x'";
+    QTest::newRow("not well-formed") << QByteArray("<a>\n  <b></a>") << "not-well-formed" << 2 << 10 << "mismatch";
+    QTest::newRow("over a limit") << nested(ZRXMLLimits::maxDepth + 1) << "limit-exceeded" << 1
+                                  << 3 * (ZRXMLLimits::maxDepth + 1) + 1 << "maxDepth";
+}
+
+void tst_XMLLoader::findings()
+{
+    QFETCH(QByteArray, document);
+    QFETCH(QString, rule);
+    QFETCH(int, line);
+    QFETCH(int, column);
+    QFETCH(QString, text);
+    ZRXMLDiagnostics diagnostics;
+    const QDomElement root = ZRXMLLoader::loadDocumentElement(document);
+    const ZRProductTypeDescription description(root.firstChildElement(QStringLiteral("product")));
+    const QList<ZRXMLFinding> findings = diagnostics.findings();
+    QCOMPARE(findings.size(), 1);
+    const ZRXMLFinding &finding = findings.first();
+    QCOMPARE(finding.rule, rule);
+    QCOMPARE(
+        QStringLiteral("%1:%2").arg(finding.line).arg(finding.column), QStringLiteral("%1:%2").arg(line).arg(column));
+    const QString said = finding.message + QLatin1String(" / ") + finding.suggestion;
+    QVERIFY2(said.contains(text), qPrintable(said));
+}
+
+// The sample catalogue is what maintainers copy from: reading it must forgive nothing.
+void tst_XMLLoader::samplesHaveNoFindings_data()
+{
+    QTest::addColumn<QString>("path");
+    const QDir examples(QStringLiteral(ZR_EXAMPLES_DIR));
+    QDirIterator samples(examples.path(), { QStringLiteral("*.xml") }, QDir::Files, QDirIterator::Subdirectories);
+    while (samples.hasNext()) {
+        const QString path = samples.next();
+        if (path.contains(QLatin1String("/products/")))
+            QTest::newRow(qPrintable(examples.relativeFilePath(path))) << path;
+    }
+}
+
+void tst_XMLLoader::samplesHaveNoFindings()
+{
+    QFETCH(QString, path);
+    ZRXMLDiagnostics diagnostics;
+    const QFileInfo file(path);
+    const std::unique_ptr<ZRProductTypeDescription> description(
+        ZRProductTypeDescriptionReader(file.dir()).readFile(file));
+    QVERIFY(description);
+    QStringList findings;
+    for (const ZRXMLFinding &finding : diagnostics.findings())
+        findings.append(
+            QStringLiteral("%1:%2: %3 %4").arg(finding.line).arg(finding.column).arg(finding.rule, finding.message));
+    QCOMPARE(findings, QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_XMLLoader)

@@ -6,7 +6,13 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
 
 namespace {
 struct Result
@@ -16,24 +22,39 @@ struct Result
     QString err;
 };
 
-/** Runs the inspector with @p arguments, away from any catalogue configured in the environment. */
-Result run(const QStringList &arguments)
+/**
+ * Runs the inspector with @p arguments, away from any catalogue configured in the environment and
+ * without NO_COLOR; with @p noColor, NO_COLOR is set to it. With @p terminal, the output goes to a
+ * terminal of its own, made by script(1).
+ */
+Result run(const QStringList &arguments, const std::optional<QString> &noColor = {}, bool terminal = false)
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     const QStringList keys = environment.keys();
     for (const QString &key : keys) {
-        if (key.startsWith(QLatin1String("ZR_")))
+        if (key.startsWith(QLatin1String("ZR_")) || key == QLatin1String("NO_COLOR"))
             environment.remove(key);
     }
+    if (noColor)
+        environment.insert(QStringLiteral("NO_COLOR"), *noColor);
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(ZRPRODUCTS_TOOL), arguments);
+    if (terminal) {
+        QStringList words;
+        for (QString word : QStringList { QStringLiteral(ZRPRODUCTS_TOOL) } + arguments)
+            words.append(
+                QLatin1Char('\'') + word.replace(QLatin1Char('\''), QLatin1String("'\\''")) + QLatin1Char('\''));
+        process.start(QStringLiteral("script"), { "-qec", words.join(QLatin1Char(' ')), "/dev/null" });
+    } else {
+        process.start(QStringLiteral(ZRPRODUCTS_TOOL), arguments);
+    }
     const bool finished = process.waitForFinished(120000);
     Result result;
     if (!finished || process.exitStatus() != QProcess::NormalExit)
         return result;
     result.exitCode = process.exitCode();
-    result.out = QString::fromUtf8(process.readAllStandardOutput());
+    // A terminal ends its lines with "\r\n".
+    result.out = QString::fromUtf8(process.readAllStandardOutput()).remove(QLatin1Char('\r'));
     result.err = QString::fromUtf8(process.readAllStandardError());
     return result;
 }
@@ -81,6 +102,37 @@ QStringList productNames(const QString &dir)
 
 const QString brokenProducts = QStringLiteral(ZR_TEST_DATA_DIR "/broken_catalogue/products");
 const QString brokenInstalled = QStringLiteral(ZR_TEST_DATA_DIR "/broken_catalogue/installed");
+const QString lintDir = QStringLiteral(ZR_TEST_DATA_DIR "/lint");
+
+/** "path line:column severity rule", the path relative to the lint files. */
+QString findingKey(const QString &file, const QString &finding)
+{
+    return QDir(lintDir).relativeFilePath(QFileInfo(file).absoluteFilePath()) + QLatin1Char(' ') + finding;
+}
+
+/**
+ * The findings that @p files declare, one comment per finding ("<!-- expect: 4:10 warning
+ * unknown-attribute -->", or "<!-- expect: none -->"), sorted.
+ */
+QStringList declaredFindings(const QFileInfoList &files)
+{
+    static const QRegularExpression expect(QStringLiteral("<!-- expect: (.*) -->"));
+    QStringList findings;
+    for (const QFileInfo &info : files) {
+        QFile file(info.filePath());
+        const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        // A file that declares nothing, not even "none", fails the comparison.
+        if (!expect.match(text).hasMatch())
+            findings.append(findingKey(info.filePath(), QStringLiteral("declares no expectation")));
+        for (auto it = expect.globalMatch(text); it.hasNext();) {
+            const QString finding = it.next().captured(1);
+            if (finding != QLatin1String("none"))
+                findings.append(findingKey(info.filePath(), finding));
+        }
+    }
+    findings.sort();
+    return findings;
+}
 } // namespace
 
 class tst_ZRProducts : public QObject
@@ -97,9 +149,13 @@ private Q_SLOTS:
     void pages();
     void categories_data();
     void categories();
-    void checkFindsEveryFault_data();
-    void checkFindsEveryFault();
-    void checkJson();
+    void check_data();
+    void check();
+    void checkOnTerminal_data();
+    void checkOnTerminal();
+
+private:
+    QTemporaryDir m_scratch;
 };
 
 void tst_ZRProducts::commandLine_data()
@@ -111,10 +167,12 @@ void tst_ZRProducts::commandLine_data()
 
     const QString usage = QStringLiteral("Try 'zrproducts --help'");
     const QString badCount = QStringLiteral("not a number of pages from 0 to 9999: ");
+    const QString mistakes = lintDir + QStringLiteral("/mistakes.xml");
+    const QString findingLines = QStringLiteral("(.*\\]\n)*");
     // clang-format off
     QTest::newRow("list text") << QStringList { "list" } << 0
-        << "^PRODUCT +CLASS +BINDING +PAGES +VALID\n(.|\n)*walldecor_canvas_60x40 +walldecor +- +1 +yes\n(.|\n)*\nLegacy products\n"
-           "(.|\n)*card_postcard_easy_a6_2018 +card +single +1 +yes +card_folded_vario_a6 +RewriteOneSidedEasyToTwoSidedVario" << QString();
+        << "^Products:\n  PRODUCT +CLASS +BINDING +PAGES +VALID\n(.|\n)*  walldecor_canvas_60x40 +walldecor +- +1 +yes\n(.|\n)*\n\nLegacy products:\n"
+           "  PRODUCT .*\n  card_postcard_easy_a6_2018 +card +single +1 +yes +card_folded_vario_a6 +RewriteOneSidedEasyToTwoSidedVario\n$" << QString();
     QTest::newRow("show text") << QStringList { "show", "photobook_hardcover_a4_landscape" } << 0
         << "Has text on spine: +yes\n(.|\n)*Safety margins:\n  All: +50\n  Covers: +170\n  Fold: +60\n(.|\n)*- Jig: +frame\n +Name: +Rahmen\n +Enabled: +no"
         << QString();
@@ -126,16 +184,28 @@ void tst_ZRProducts::commandLine_data()
     QTest::newRow("pages text") << QStringList { "pages", "calendar_wall_a3_portrait", "2" } << 0
         << "^INDEX +PAGE TYPE +ALIGNMENT +MARGIN +LAYOUT +BACKGROUND +DESIGN\n0 +title +left +50 +Kalender-Titel-1-Foto +201 +-\n"
            "1 +photo_page +right +50 +Kalender-1-Foto-Vollflaeche +201 +-\n2 +grid_page +left +50 +Kalendarium-Monat-Zeile +201 +-\n$" << QString();
-    QTest::newRow("sample catalogue is clean") << QStringList { "check" } << 0
-                                               << "^12 files checked in 3 directories: no problems\n$" << QString();
+    QTest::newRow("check: findings, then the summary") << QStringList { "check", mistakes } << 0
+        << "^" + findingLines + ".*/mistakes\\.xml:12:12: warning: unknown attribute 'safetymargn' on <product> is ignored; "
+           "did you mean 'safetymargin'\\? \\[unknown-attribute\\]\n" + findingLines + "0 errors, 5 warnings in 1 file\n$" << QString();
+    QTest::newRow("check -q: findings alone") << QStringList { "check", "-q", mistakes } << 0 << "^(.*/mistakes\\.xml:.*\\]\n){5}$"
+                                              << QString();
+    QTest::newRow("check --werror: warnings fail") << QStringList { "check", "--werror", mistakes } << 1
+                                                   << "\n0 errors, 5 warnings in 1 file\n$" << QString();
+    QTest::newRow("check: described twice in one directory") << QStringList { "check", brokenProducts } << 1
+        << "\n.*/duplicate_[ab]\\.xml:3:3: error: product 'broken_duplicate' is described again in .*/duplicate_[ab]\\.xml, "
+           "which the registry keeps \\(the later file in the directory listing wins\\) \\[duplicate-product\\]\n" << QString();
     QTest::newRow("library warnings on a broken catalogue") << QStringList { "list", "--products", brokenProducts } << 0
-        << "\nbroken_no_binding +card +- +2 +no\n"
+        << "\n  broken_no_binding +card +- +2 +no\n"
         << "^(zrproducts: warning: (parse error|could not open .*/not_xml\\.xml)\n){2}$";
     QTest::newRow("unknown product") << QStringList { "show", "no_such_product" } << 1 << QString()
                                      << "^zrproducts: unknown product \"no_such_product\"\n$";
     QTest::newRow("unknown command") << QStringList { "frobnicate" } << 2 << QString()
                                      << "unknown command \"frobnicate\"\n" + usage;
     QTest::newRow("unknown option") << QStringList { "list", "--colour" } << 2 << QString() << "Unknown option 'colour'";
+    QTest::newRow("option of check elsewhere") << QStringList { "list", "--werror" } << 2 << QString()
+                                               << "-q and --werror are options of check";
+    QTest::newRow("check a missing file") << QStringList { "check", "/nonexistent.xml" } << 2 << QString()
+                                          << "no such file or directory: /nonexistent.xml";
     QTest::newRow("no command") << QStringList {} << 2 << QString() << "no command given";
     QTest::newRow("show without name") << QStringList { "show" } << 2 << QString() << usage;
     QTest::newRow("count that is no number") << QStringList { "pages", "calendar_wall_a3_portrait", "many" } << 2 << QString()
@@ -160,30 +230,34 @@ void tst_ZRProducts::commandLine()
 
     const Result result = run(arguments);
     QCOMPARE(result.exitCode, exitCode);
-    if (!out.isEmpty())
+    if (out.isEmpty())
+        QCOMPARE(result.out, QString());
+    else
         QVERIFY2(QRegularExpression(out).match(result.out).hasMatch(), qPrintable(result.out));
     if (err.isEmpty())
         QCOMPARE(result.err, QString());
     else
         QVERIFY2(QRegularExpression(err).match(result.err).hasMatch(), qPrintable(result.err));
-    if (exitCode != 0)
-        QCOMPARE(result.out, QString());
+    // Output that is not a terminal has no colours.
+    QVERIFY(!result.out.contains(QLatin1Char('\x1b')));
 }
 
 void tst_ZRProducts::listHasEveryProduct()
 {
-    const QJsonArray products = runJson({ QStringLiteral("list") }).array();
-    QStringList current;
-    QStringList legacy;
-    for (const QJsonValue &product : products) {
-        const QJsonObject object = product.toObject();
-        QVERIFY2(object.value(QStringLiteral("valid")).toBool(), qPrintable(object.value("name").toString()));
-        (object.value(QStringLiteral("legacy")).toBool() ? legacy : current)
-            .append(object.value(QStringLiteral("name")).toString());
+    const QJsonObject list = runJson({ QStringLiteral("list") }).object();
+    QMap<QString, QStringList> names;
+    for (const QString &key : { QStringLiteral("products"), QStringLiteral("legacyProducts") }) {
+        const QJsonArray products = list.value(key).toArray();
+        for (const QJsonValue &product : products) {
+            const QJsonObject object = product.toObject();
+            QVERIFY2(object.value(QStringLiteral("valid")).toBool(), qPrintable(object.value("name").toString()));
+            names[key].append(object.value(QStringLiteral("name")).toString());
+        }
     }
     // Sorted by name, and exactly the products of the description files.
-    QCOMPARE(current, productNames(QStringLiteral(ZR_EXAMPLES_DIR "/products")));
-    QCOMPARE(legacy, productNames(QStringLiteral(ZR_EXAMPLES_DIR "/resources/products/legacy")));
+    QCOMPARE(names.value(QStringLiteral("products")), productNames(QStringLiteral(ZR_EXAMPLES_DIR "/products")));
+    QCOMPARE(names.value(QStringLiteral("legacyProducts")),
+        productNames(QStringLiteral(ZR_EXAMPLES_DIR "/resources/products/legacy")));
 }
 
 void tst_ZRProducts::show_data()
@@ -289,70 +363,84 @@ void tst_ZRProducts::categories()
     QCOMPARE(found.value(QStringLiteral("colorSortKey")).isNull(), color.isNull());
 }
 
-void tst_ZRProducts::checkFindsEveryFault_data()
+void tst_ZRProducts::check_data()
 {
-    QTest::addColumn<QString>("line");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("expected");
 
-    const QString keys = QStringLiteral("/unknown_keys\\.xml: ");
-    const QString illegal = QStringLiteral(
-        ": library warning while expanding the pages: Illegaler Seitentyp in der Produktbeschreibung\\.$");
-    // clang-format off
-    QTest::newRow("not XML") << "/not_xml\\.xml: does not load: could not open .*/not_xml\\.xml$";
-    QTest::newRow("no product element") << "/no_product\\.xml: no \"product\" element below the document element \"products\"$";
-    QTest::newRow("no name") << "/no_name\\.xml: the \"product\" element has no \"name\"$";
-    QTest::newRow("invalid") << "/no_binding\\.xml: product \"broken_no_binding\" is invalid: it has no binding";
-    QTest::newRow("duplicate in one directory") << "/duplicate_[ab]\\.xml: product type \"broken_duplicate\" is described twice; the registry keeps the one "
-                                                   "in .*/duplicate_[ab]\\.xml \\(the later file in the directory listing wins\\)$";
-    QTest::newRow("first directory wins") << "installed/unknown_jig_again\\.xml: product type \"broken_unknown_jig\" is described twice; the registry "
-                                             "keeps the one in .*products/unknown_jig\\.xml \\(an earlier directory wins\\)$";
-    QTest::newRow("unknown jig") << "/unknown_jig\\.xml: unknown jig type \"stickers\" in /products/product/editorAbilities/jigs/stickers$";
-    QTest::newRow("unknown surrounding type") << "/unknown_surrounding\\.xml: unknown surrounding type \"RIBBON\" in /products/product/surroundings/surrounding\\[2\\]/@type$";
-    QTest::newRow("unknown page type") << "/unknown_page_type\\.xml: unknown page type \"leaflet\" in /products/product/pages$";
-    QTest::newRow("unknown page type is 0") << "/unknown_page_type\\.xml" + illegal;
-    QTest::newRow("empty page type is 0") << "/zero_page_type\\.xml" + illegal;
-    QTest::newRow("bad redirect") << "/bad_redirect\\.xml: library warning while reading: parse error$";
-    QTest::newRow("article class") << keys + "unknown article class \"sticker\" in /products/product/@class$";
-    QTest::newRow("image effect") << keys + "unknown image effect \"sepia\" in /products/product/@imageFXs$";
-    QTest::newRow("product alignment") << keys + "unknown product alignment \"diagonal\" in /products/product/@productAlignment$";
-    QTest::newRow("conversion strategy") << keys + "unknown conversion strategy \"RewriteMagic\" in /products/product/@conversionStrategy$";
-    QTest::newRow("product spot colour") << keys + "unknown spot colour \"platinum\" in /products/product/@spotColor$";
-    QTest::newRow("empty product spot colour") << keys + "empty spot colour in /products/product/@spotColor$";
-    QTest::newRow("surrounding alignment") << keys + "unknown alignment \"outside\" in /products/product/surroundings/surrounding/@alignment$";
-    QTest::newRow("surrounding spot colour") << keys + "unknown spot colour \"copper\" in /products/product/surroundings/surrounding/@spotColor$";
-    QTest::newRow("default page type") << keys + "unknown page type \"inlay\" in /products/product/defaults/default/@pageType$";
-    QTest::newRow("page naming style") << keys + "unknown page naming style \"leporello\" in /products/product/editorAbilities/pageNamingStyle$";
-    QTest::newRow("category page type") << keys + "unknown page type \"envelope\" in /products/product/editorAbilities/jigs/content/categories/@pageType$";
-    QTest::newRow("summary") << "^13 files checked in 2 directories: 23 problems$";
-    // clang-format on
+    const QFileInfoList files = QDir(lintDir).entryInfoList({ QStringLiteral("*.xml") }, QDir::Files, QDir::Name);
+    for (const QFileInfo &file : files)
+        QTest::newRow(qPrintable(file.fileName()))
+            << QStringList { "check", file.filePath() } << declaredFindings({ file });
+
+    const QString empty = m_scratch.filePath(QStringLiteral("empty.xml"));
+    QFile(empty).open(QIODevice::WriteOnly);
+    QTest::newRow("file of no bytes") << QStringList { "check", empty }
+                                      << QStringList { findingKey(empty, QStringLiteral("0:0 error not-well-formed")) };
+
+    // Read as a catalogue: product types across directories, and legacy products' replacements.
+    const QString catalogue = lintDir + QStringLiteral("/catalogue");
+    QFileInfoList catalogueFiles;
+    for (const char *dir : { "/current", "/installed", "/resources/products/legacy" })
+        catalogueFiles += QDir(catalogue + dir).entryInfoList({ QStringLiteral("*.xml") }, QDir::Files);
+    QTest::newRow("catalogue") << QStringList { "--products", catalogue + "/current", "--products",
+        catalogue + "/installed", "--resources", catalogue + "/resources", "check" }
+                               << declaredFindings(catalogueFiles);
+    QTest::newRow("sample catalogue") << QStringList { "check" } << QStringList();
 }
 
-void tst_ZRProducts::checkFindsEveryFault()
+void tst_ZRProducts::check()
 {
-    QFETCH(QString, line);
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, expected);
 
-    const Result result = run({ QStringLiteral("check"), brokenProducts, brokenInstalled });
-    QCOMPARE(result.exitCode, 1);
-    QCOMPARE(result.err, QString());
-    const QRegularExpression pattern(line, QRegularExpression::MultilineOption);
-    QCOMPARE(result.out.count(pattern), 1);
-}
-
-void tst_ZRProducts::checkJson()
-{
-    const QJsonArray problems = runJson({ QStringLiteral("check"), brokenProducts, brokenInstalled }, 1).array();
-    QMap<QString, int> kinds;
-    for (const QJsonValue &problem : problems) {
-        const QJsonObject object = problem.toObject();
-        ++kinds[object.value(QStringLiteral("kind")).toString()];
-        QVERIFY(object.value(QStringLiteral("file")).toString().endsWith(QLatin1String(".xml")));
-        if (object.value(QStringLiteral("kind")) == QLatin1String("unknown-key"))
-            QVERIFY(object.value(QStringLiteral("path")).toString().startsWith(QLatin1String("/products/product/")));
+    const Result result = run(arguments + QStringList { QStringLiteral("--json") });
+    const QJsonObject report = QJsonDocument::fromJson(result.out.toUtf8()).object();
+    QStringList findings;
+    QList<std::tuple<QString, int, int>> places;
+    const QJsonArray array = report.value(QStringLiteral("findings")).toArray();
+    for (const QJsonValue &value : array) {
+        const QJsonObject finding = value.toObject();
+        places.append({ finding.value(QStringLiteral("file")).toString(), finding.value(QStringLiteral("line")).toInt(),
+            finding.value(QStringLiteral("column")).toInt() });
+        findings.append(findingKey(finding.value(QStringLiteral("file")).toString(),
+            QStringLiteral("%1:%2 %3 %4")
+                .arg(finding.value(QStringLiteral("line")).toInt())
+                .arg(finding.value(QStringLiteral("column")).toInt())
+                .arg(finding.value(QStringLiteral("severity")).toString(),
+                    finding.value(QStringLiteral("rule")).toString())));
     }
-    const QMap<QString, int> expected { { "not-loaded", 1 }, { "no-product", 1 }, { "no-name", 1 }, { "invalid", 1 },
-        { "duplicate", 2 }, { "unknown-key", 3 + 11 }, { "warning", 3 } };
-    QCOMPARE(kinds, expected);
+    QVERIFY(std::is_sorted(places.cbegin(), places.cend()));
+    findings.sort();
+    QCOMPARE(findings, expected);
+    const int errors = int(expected.filter(QStringLiteral(" error ")).size());
+    QCOMPARE(report.value(QStringLiteral("summary")).toObject().value(QStringLiteral("errors")).toInt(), errors);
+    QCOMPARE(result.exitCode, errors > 0 ? 1 : 0);
+    QCOMPARE(result.err, QString());
+}
 
-    QCOMPARE(runJson({ QStringLiteral("check") }).array(), QJsonArray());
+void tst_ZRProducts::checkOnTerminal_data()
+{
+    QTest::addColumn<std::optional<QString>>("noColor");
+    QTest::addColumn<bool>("colour");
+
+    QTest::newRow("in colour") << std::optional<QString>() << true;
+    QTest::newRow("NO_COLOR empty") << std::optional<QString>(QString()) << false;
+}
+
+void tst_ZRProducts::checkOnTerminal()
+{
+    QFETCH(std::optional<QString>, noColor);
+    QFETCH(bool, colour);
+    if (QStandardPaths::findExecutable(QStringLiteral("script")).isEmpty())
+        QSKIP("no script(1) to make a terminal");
+
+    const Result result = run({ QStringLiteral("check"), lintDir + QStringLiteral("/mistakes.xml") }, noColor, true);
+    QCOMPARE(result.exitCode, 0);
+    // Each finding is followed by its source line and a caret under its column.
+    const QRegularExpression caret(QStringLiteral("\n {11}isTwoSided=\"ja\">\n {11}(\\x1b\\[[0-9;]*m)?\\^"));
+    QVERIFY2(caret.match(result.out).hasMatch(), qPrintable(result.out));
+    QCOMPARE(result.out.contains(QLatin1Char('\x1b')), colour);
 }
 
 QTEST_GUILESS_MAIN(tst_ZRProducts)

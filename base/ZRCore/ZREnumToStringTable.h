@@ -37,7 +37,10 @@ public:
     /** Registers one row; a later row with the same lower-case key replaces the value, never the output key. */
     void insert(const QString &key, E value)
     {
-        m_stringToValue.insert(key.toLower(), value);
+        const QString lowerKey = key.toLower();
+        if (!m_stringToValue.contains(lowerKey))
+            m_keys.append(key);
+        m_stringToValue.insert(lowerKey, value);
         if (!m_valueToString.contains(value))
             m_valueToString.insert(value, key);
     }
@@ -114,6 +117,8 @@ public:
     /** The key registered for exactly @p value (no bit splitting), or unknownText(). */
     QString keyOf(E value) const { return m_valueToString.value(value, m_unknownText); }
     bool containsKey(const QString &key) const { return m_stringToValue.contains(key.toLower()); }
+    /** Every key, synonyms included, spelt as first registered, in the order of registration. */
+    const QStringList &keys() const { return m_keys; }
 
     const QHash<QString, E> &stringToValue() const { return m_stringToValue; }
     const QHash<E, QString> &valueToString() const { return m_valueToString; }
@@ -136,6 +141,7 @@ private:
 
     QHash<QString, E> m_stringToValue;
     QHash<E, QString> m_valueToString;
+    QStringList m_keys;
     QString m_unknownText;
     E m_unknownValue = static_cast<E>(0);
 };

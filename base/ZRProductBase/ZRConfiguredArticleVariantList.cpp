@@ -1,5 +1,14 @@
 #include "ZRConfiguredArticleVariantList.h"
 
+#include "ZRXMLDiagnostics.h"
+#include "ZRXMLVocabulary.h"
+
+namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("variants"), {}, { QStringLiteral("variant") });
+const ZRXMLVocabulary variantVocabulary(
+    QStringLiteral("variant"), { QStringLiteral("name"), QStringLiteral("choices"), QStringLiteral("default") }, {});
+} // namespace
+
 ZRConfiguredArticleVariant::ZRConfiguredArticleVariant(const QString &name, const QStringList &choices,
                                                        const QString &defaultChoice)
     : m_name(name)
@@ -17,12 +26,19 @@ bool ZRConfiguredArticleVariant::operator==(const ZRConfiguredArticleVariant &ot
 
 ZRConfiguredArticleVariantList::ZRConfiguredArticleVariantList(const QDomElement &productElement)
 {
-    const QDomElement variants = productElement.firstChildElement(QStringLiteral("variants"));
-    for (QDomElement variant = variants.firstChildElement(QStringLiteral("variant")); !variant.isNull();
-         variant = variant.nextSiblingElement(QStringLiteral("variant"))) {
+    const QDomElement variants = productElement.firstChildElement(vocabulary.element());
+    vocabulary.check(variants);
+    for (QDomElement variant = variants.firstChildElement(variantVocabulary.element()); !variant.isNull();
+         variant = variant.nextSiblingElement(variantVocabulary.element())) {
+        variantVocabulary.check(variant);
         const QString name = variant.attribute(QStringLiteral("name")).trimmed();
-        if (name.isEmpty())
+        if (name.isEmpty()) {
+            if (ZRXMLDiagnostics::isActive()) {
+                ZRXMLDiagnostics::report(ZRXMLFinding::Warning, QStringLiteral("ignored-element"),
+                    QStringLiteral("<variant> without a 'name' is ignored"), variant);
+            }
             continue;
+        }
         QStringList choices;
         const QStringList parts = variant.attribute(QStringLiteral("choices")).split(QLatin1Char(','), Qt::SkipEmptyParts);
         for (const QString &part : parts) {

@@ -3,6 +3,7 @@
 
 #include "zrxml_export.h"
 
+#include <QDomNode>
 #include <QList>
 #include <QString>
 #include <QStringView>
@@ -42,9 +43,11 @@ public:
 
     /**
      * The pages of a comma-separated list in @p text (white space simplified, empty parts dropped), in
-     * the order of the text, duplicates kept. An empty list when the list is over the limit.
+     * the order of the text, duplicates kept. An empty list when the list is over the limit. @p node,
+     * the attribute or element the text is from, is where a diagnostics collector is told of dropped
+     * parts, range ends that are not numbers and a list over the limit.
      */
-    static QList<int> decode(const QString &text, RangeRule rule);
+    static QList<int> decode(const QString &text, RangeRule rule, const QDomNode &node = QDomNode());
 
     /**
      * One page ("3") or one inclusive range of the first two '-'-separated pieces ("3-5"), each a
@@ -55,9 +58,10 @@ public:
 
     /**
      * True when a list of @p pages pages is within ZRXMLLimits::maxListPages; otherwise false, with
-     * the warning "Page list too long in the product description.".
+     * the warning "Page list too long in the product description.", which is also reported to a
+     * diagnostics collector on @p node, where the list is from.
      */
-    static bool isWithinLimit(qint64 pages);
+    static bool isWithinLimit(qint64 pages, const QDomNode &node = QDomNode());
 };
 
 #endif

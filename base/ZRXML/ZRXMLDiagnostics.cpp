@@ -116,6 +116,21 @@ void ZRXMLDiagnostics::checkNames(
 {
     if (!activeCollector || element.isNull())
         return;
+    checkAttributes(element, attributes);
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (children.contains(child.tagName()))
+            continue;
+        const QString guess = closest(child.tagName(), children);
+        report(ZRXMLFinding::Warning, QStringLiteral("unknown-element"),
+            QStringLiteral("unknown element <%1> in <%2> is ignored").arg(child.tagName(), element.tagName()), child,
+            guess.isEmpty() ? QString() : QStringLiteral("did you mean '%1'?").arg(guess));
+    }
+}
+
+void ZRXMLDiagnostics::checkAttributes(const QDomElement &element, const QStringList &attributes)
+{
+    if (!activeCollector || element.isNull())
+        return;
     const QDomNamedNodeMap map = element.attributes();
     for (int i = 0; i < map.count(); ++i) {
         const QDomAttr attribute = map.item(i).toAttr();
@@ -126,13 +141,37 @@ void ZRXMLDiagnostics::checkNames(
             QStringLiteral("unknown attribute '%1' on <%2> is ignored").arg(attribute.name(), element.tagName()),
             attribute, guess.isEmpty() ? QString() : QStringLiteral("did you mean '%1'?").arg(guess));
     }
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (children.contains(child.tagName()))
+}
+
+void ZRXMLDiagnostics::checkKeys(
+    const QString &text, const QStringList &keys, const QString &what, const QDomNode &node, bool emptyPartsCount)
+{
+    if (!activeCollector || text.isEmpty())
+        return;
+    // A key that is the name of its own element (a jig type) needs no place of its own in the message.
+    QString where;
+    if (node.isAttr())
+        where = QStringLiteral(" in '%1'").arg(node.nodeName());
+    else if (node.isElement() && node.nodeName() != text)
+        where = QStringLiteral(" in <%1>").arg(node.nodeName());
+    const QStringList parts = text.split(QLatin1Char(','));
+    for (const QString &part : parts) {
+        const QString key = part.trimmed();
+        const QString lowerKey = key.toLower();
+        if (key.isEmpty() ? !emptyPartsCount
+                          : std::any_of(keys.cbegin(), keys.cend(),
+                              [&lowerKey](const QString &known) { return known.toLower() == lowerKey; }))
             continue;
-        const QString guess = closest(child.tagName(), children);
-        report(ZRXMLFinding::Warning, QStringLiteral("unknown-element"),
-            QStringLiteral("unknown element <%1> in <%2> is ignored").arg(child.tagName(), element.tagName()), child,
-            guess.isEmpty() ? QString() : QStringLiteral("did you mean '%1'?").arg(guess));
+        const QString guess = closest(key, keys);
+        QString suggestion;
+        if (!guess.isEmpty())
+            suggestion = QStringLiteral("did you mean '%1'?").arg(guess);
+        else if (keys.size() <= 8)
+            suggestion = QLatin1String("one of: ") + keys.join(QLatin1String(", "));
+        report(ZRXMLFinding::Warning, QStringLiteral("unknown-key"),
+            key.isEmpty() ? QStringLiteral("empty %1%2").arg(what, where)
+                          : QStringLiteral("unknown %1 '%2'%3").arg(what, key, where),
+            node, suggestion);
     }
 }
 

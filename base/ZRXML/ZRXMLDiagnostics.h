@@ -70,6 +70,29 @@ public:
      * @p children, suggesting the closest known name.
      */
     static void checkNames(const QDomElement &element, const QStringList &attributes, const QStringList &children);
+    /** The attributes half of checkNames(), for an element whose children are checked otherwise. */
+    static void checkAttributes(const QDomElement &element, const QStringList &attributes);
+
+    /**
+     * Reports as "unknown-key" each comma-separated part of @p text, blanks around it ignored, that is
+     * none of @p keys (matched without regard to case, as the enumeration tables match them); an empty
+     * part only with @p emptyPartsCount. @p what names the kind of key ("page type"), @p node is the
+     * attribute or element that holds the text. The suggestion is the closest key, or all keys of a
+     * short list. Nothing for an empty text.
+     */
+    static void checkKeys(const QString &text, const QStringList &keys, const QString &what, const QDomNode &node,
+        bool emptyPartsCount = false);
+    /**
+     * checkKeys() with the keys of the enumerated value class @p W, for the value of the attribute
+     * @p node or the text of the element @p node; nothing for a null node or without a collector.
+     */
+    template<typename W> static void checkKeys(const QDomNode &node, const QString &what, bool emptyPartsCount = false)
+    {
+        if (isActive() && !node.isNull()) {
+            checkKeys(node.isAttr() ? node.nodeValue() : node.toElement().text(), W().enumToStringTable()->keys(), what,
+                node, emptyPartsCount);
+        }
+    }
 
     /**
      * The name of @p candidates closest to @p name, ignoring letter case, when it is close enough to be

@@ -19,10 +19,12 @@ Registry &registry()
 }
 } // namespace
 
-ZRXMLVocabulary::ZRXMLVocabulary(const QString &element, const QStringList &attributes, const QStringList &children)
+ZRXMLVocabulary::ZRXMLVocabulary(
+    const QString &element, const QStringList &attributes, const QStringList &children, ChildNames childNames)
     : m_element(element)
     , m_attributes(attributes)
     , m_children(children)
+    , m_childNames(childNames)
 {
     Registry &r = registry();
     const QMutexLocker locker(&r.mutex);
@@ -38,7 +40,11 @@ ZRXMLVocabulary::~ZRXMLVocabulary()
 
 void ZRXMLVocabulary::check(const QDomElement &element) const
 {
-    if (ZRXMLDiagnostics::isActive())
+    if (!ZRXMLDiagnostics::isActive())
+        return;
+    if (m_childNames == KeyedChildren)
+        ZRXMLDiagnostics::checkAttributes(element, m_attributes);
+    else
         ZRXMLDiagnostics::checkNames(element, m_attributes, m_children);
 }
 

@@ -19,7 +19,20 @@
 class ZRXML_EXPORT ZRXMLVocabulary
 {
 public:
-    ZRXMLVocabulary(const QString &element, const QStringList &attributes, const QStringList &children);
+    /** How the reader takes the children of the element. */
+    enum ChildNames
+    {
+        /** Each child is known by its exact name; check() reports the others. */
+        NamedChildren,
+        /**
+         * The children are named by the keys of an enumeration, matched without regard to case: the
+         * reader decodes each name and reports the unknown ones as keys, so check() leaves them alone.
+         */
+        KeyedChildren
+    };
+
+    ZRXMLVocabulary(const QString &element, const QStringList &attributes, const QStringList &children,
+        ChildNames childNames = NamedChildren);
     ~ZRXMLVocabulary();
     ZRXMLVocabulary(const ZRXMLVocabulary &) = delete;
     ZRXMLVocabulary &operator=(const ZRXMLVocabulary &) = delete;
@@ -27,6 +40,7 @@ public:
     QString element() const { return m_element; }
     QStringList attributes() const { return m_attributes; }
     QStringList children() const { return m_children; }
+    ChildNames childNames() const { return m_childNames; }
 
     /** Reports the unknown attributes and children of @p element; nothing without a collector. */
     void check(const QDomElement &element) const;
@@ -38,6 +52,7 @@ private:
     QString m_element;
     QStringList m_attributes;
     QStringList m_children;
+    ChildNames m_childNames;
 };
 
 #endif

@@ -1,13 +1,21 @@
 #include "ZRCalendarHoleConfig.h"
 
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
+
+namespace {
+const ZRXMLVocabulary vocabulary(
+    QStringLiteral("hole"), { QStringLiteral("diameter"), QStringLiteral("distanceY") }, {});
+}
 
 ZRCalendarHoleConfig::ZRCalendarHoleConfig() = default;
 
 ZRCalendarHoleConfig::ZRCalendarHoleConfig(const QDomElement &element)
     : m_diameter(ZRXMLParser::intAttribute(element, QStringLiteral("diameter"), 0))
     , m_distanceY(ZRXMLParser::intAttribute(element, QStringLiteral("distanceY"), 0))
-{ }
+{
+    vocabulary.check(element);
+}
 
 ZRCalendarHoleConfig::~ZRCalendarHoleConfig() = default;
 

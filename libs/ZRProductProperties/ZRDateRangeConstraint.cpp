@@ -1,6 +1,14 @@
 #include "ZRDateRangeConstraint.h"
 
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
+
+namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("dateRangeConstraint"),
+    { QStringLiteral("isEnforced"), QStringLiteral("minimumFromCurrentYear"),
+        QStringLiteral("maximumFromCurrentYear") },
+    {});
+}
 
 ZRDateRangeConstraint::ZRDateRangeConstraint() = default;
 
@@ -8,7 +16,9 @@ ZRDateRangeConstraint::ZRDateRangeConstraint(const QDomElement &element)
     : m_isEnforced(ZRXMLParser::boolAttribute(element, QStringLiteral("isEnforced"), false))
     , m_minimumFromCurrentYear(ZRXMLParser::intAttribute(element, QStringLiteral("minimumFromCurrentYear"), 0))
     , m_maximumFromCurrentYear(ZRXMLParser::intAttribute(element, QStringLiteral("maximumFromCurrentYear"), 0))
-{ }
+{
+    vocabulary.check(element);
+}
 
 ZRDateRangeConstraint::~ZRDateRangeConstraint() = default;
 

@@ -1,7 +1,9 @@
 #include "ZRDefaultTemplateMap.h"
 
 #include "ZRPageTypeList.h"
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
 
 #include <QDomElement>
 #include <QList>
@@ -9,6 +11,15 @@
 #include <QStringView>
 
 #include <algorithm>
+
+namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("defaults"), {}, { QStringLiteral("default") });
+const ZRXMLVocabulary defaultVocabulary(QStringLiteral("default"),
+    { QStringLiteral("pageType"), QStringLiteral("alignment"), QStringLiteral("pageNr"),
+        QStringLiteral("scenePageCount"), QStringLiteral("templates"), QStringLiteral("layout"),
+        QStringLiteral("background"), QStringLiteral("design") },
+    {});
+} // namespace
 
 ZRDefaultTemplateMap::ZRDefaultTemplateMap() = default;
 
@@ -19,8 +30,16 @@ ZRDefaultTemplateMap::ZRDefaultTemplateMap(const QDomElement &element)
 
 void ZRDefaultTemplateMap::applyDefaultsNode(const QDomElement &element)
 {
-    for (QDomElement node = element.firstChildElement(QStringLiteral("default")); !node.isNull();
-         node = node.nextSiblingElement(QStringLiteral("default"))) {
+    vocabulary.check(element);
+    for (QDomElement node = element.firstChildElement(defaultVocabulary.element()); !node.isNull();
+         node = node.nextSiblingElement(defaultVocabulary.element())) {
+        defaultVocabulary.check(node);
+        if (ZRXMLDiagnostics::isActive()) {
+            ZRXMLDiagnostics::checkKeys<ZRPageType>(
+                node.attributes().namedItem(QStringLiteral("pageType")), QStringLiteral("page type"));
+            ZRXMLDiagnostics::checkKeys<ZRPageAlignment>(
+                node.attributes().namedItem(QStringLiteral("alignment")), QStringLiteral("alignment"));
+        }
         const ZRPageTypeList pageTypes(ZRXMLParser::attribute(node, QStringLiteral("pageType"), QString(), true));
         const ZRPageAlignment alignment(ZRXMLParser::attribute(
             node, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle"), true));

@@ -1,6 +1,30 @@
 #include "ZRJigEditorAbilitiesImpl.h"
 
+#include "ZRJigType.h"
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
+
+#include <list>
+
+namespace {
+/** One vocabulary for each jig type key that may name the element; all of them read the same names. */
+std::list<ZRXMLVocabulary> makeVocabularies()
+{
+    std::list<ZRXMLVocabulary> vocabularies;
+    const QStringList names = ZRJigType::elementNames();
+    for (const QString &name : names) {
+        vocabularies.emplace_back(name,
+            QStringList { QStringLiteral("enabled"), QStringLiteral("alignable"), QStringLiteral("rotatable"),
+                QStringLiteral("fullOnEachPage"), QStringLiteral("exactArticle") },
+            QStringList { QStringLiteral("categories") });
+    }
+    return vocabularies;
+}
+
+const std::list<ZRXMLVocabulary> vocabularies = makeVocabularies();
+const ZRXMLVocabulary categoriesVocabulary(QStringLiteral("categories"), { QStringLiteral("pageType") }, {});
+} // namespace
 
 ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl() = default;
 
@@ -11,9 +35,15 @@ ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl(const QDomElement &element)
     , m_fullOnEachPage(ZRXMLParser::boolAttribute(element, QStringLiteral("fullOnEachPage"), true))
     , m_exactArticle(ZRXMLParser::boolAttribute(element, QStringLiteral("exactArticle"), false))
 {
-    const QString categoriesTag = QStringLiteral("categories");
+    vocabularies.front().check(element);
+    const QString categoriesTag = categoriesVocabulary.element();
     for (QDomElement child = element.firstChildElement(categoriesTag); !child.isNull();
          child = child.nextSiblingElement(categoriesTag)) {
+        categoriesVocabulary.check(child);
+        if (ZRXMLDiagnostics::isActive()) {
+            ZRXMLDiagnostics::checkKeys<ZRPageType>(
+                child.attributes().namedItem(QStringLiteral("pageType")), QStringLiteral("page type"));
+        }
         const ZRPageType pageTypes(ZRXMLParser::attribute(child, QStringLiteral("pageType"), QString(), true));
         const QList<QString> keys = child.text().split(QLatin1Char(','), Qt::SkipEmptyParts, Qt::CaseSensitive);
         ZRPageType::Table::forEachBit(pageTypes.value(), [this, &keys](ZRPageTypeEnum bit) {

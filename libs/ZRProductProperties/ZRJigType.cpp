@@ -96,6 +96,17 @@ QHash<ZRJigTypeEnum, ZRDlpTypeEnum> ZRJigType::jigToDlpEnumHash()
     return result;
 }
 
+QStringList ZRJigType::elementNames()
+{
+    const Table *table = ZRJigType().enumToStringTable();
+    QStringList names;
+    for (const QString &key : table->keys()) {
+        if (table->stringToValue().value(key.toLower()) != ZRJigTypeUnknown)
+            names.append(key);
+    }
+    return names;
+}
+
 ZRDlpType ZRJigType::dlpType() const
 {
     return ZRDlpType(jigToDlpEnumHash().value(m_value, ZRDlpTypeEnum(0)));

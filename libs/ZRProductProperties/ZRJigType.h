@@ -54,6 +54,11 @@ public:
     static QHash<ZRJigTypeEnum, ZRDlpTypeEnum> jigToDlpEnumHash();
     /** The jig type whose download package type is @p type, or 0. */
     static ZRJigType createFromDlpType(const ZRDlpType &type);
+    /**
+     * The keys that name a jig type, synonyms included and spelt as registered ("unknown", which
+     * names none, left out): the tag names of the jig elements of a product's editor abilities.
+     */
+    static QStringList elementNames();
 
 protected:
     void fillTable(Table *table) const override;

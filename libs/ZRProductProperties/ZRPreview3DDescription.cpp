@@ -1,15 +1,36 @@
 #include "ZRPreview3DDescription.h"
 
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
 
 #include <QCoreApplication>
 #include <QUrlQuery>
 
 namespace {
-QVector3D readPoint(const QDomElement &camera, const QString &name)
+const ZRXMLVocabulary vocabulary(QStringLiteral("preview3D"), {},
+    { QStringLiteral("mesh"), QStringLiteral("textureTarget"), QStringLiteral("cupRing"), QStringLiteral("camera"),
+        QStringLiteral("cameraBig"), QStringLiteral("windowSize") });
+const ZRXMLVocabulary meshVocabulary(
+    QStringLiteral("mesh"), { QStringLiteral("file"), QStringLiteral("flipY"), QStringLiteral("flipX") }, {});
+const ZRXMLVocabulary cupRingVocabulary(QStringLiteral("cupRing"),
+    { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"), QStringLiteral("height") }, {});
+const ZRXMLVocabulary cameraVocabulary(
+    QStringLiteral("camera"), {}, { QStringLiteral("position"), QStringLiteral("lookAt") });
+const ZRXMLVocabulary cameraBigVocabulary(
+    QStringLiteral("cameraBig"), {}, { QStringLiteral("position"), QStringLiteral("lookAt") });
+const ZRXMLVocabulary positionVocabulary(
+    QStringLiteral("position"), { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z") }, {});
+const ZRXMLVocabulary lookAtVocabulary(
+    QStringLiteral("lookAt"), { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z") }, {});
+const ZRXMLVocabulary windowSizeVocabulary(
+    QStringLiteral("windowSize"), { QStringLiteral("width"), QStringLiteral("height") }, {});
+
+QVector3D readPoint(const QDomElement &camera, const ZRXMLVocabulary &pointVocabulary)
 {
-    return ZRXMLParser::readVector3D(camera.firstChildElement(name).attributes(), QStringLiteral("x"),
-        QStringLiteral("y"), QStringLiteral("z"), 0.0, 0.0, 0.0);
+    const QDomElement point = camera.firstChildElement(pointVocabulary.element());
+    pointVocabulary.check(point);
+    return ZRXMLParser::readVector3D(
+        point.attributes(), QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), 0.0, 0.0, 0.0);
 }
 
 QString number(float value)
@@ -33,10 +54,12 @@ ZRPreview3DDescription &ZRPreview3DDescription::operator=(ZRPreview3DDescription
 
 void ZRPreview3DDescription::init(const QDomElement &productElement)
 {
-    const QDomElement preview = productElement.firstChildElement(QStringLiteral("preview3D"));
+    const QDomElement preview = productElement.firstChildElement(vocabulary.element());
+    vocabulary.check(preview);
 
-    const QDomElement mesh = preview.firstChildElement(QStringLiteral("mesh"));
+    const QDomElement mesh = preview.firstChildElement(meshVocabulary.element());
     if (!mesh.isNull()) {
+        meshVocabulary.check(mesh);
         const QDomNamedNodeMap attributes = mesh.attributes();
         m_mesh = ZRXMLParser::attribute(attributes, QStringLiteral("file"), QString(), true);
         m_flipY = ZRXMLParser::boolAttribute(attributes, QStringLiteral("flipY"), false);
@@ -48,24 +71,30 @@ void ZRPreview3DDescription::init(const QDomElement &productElement)
          target = target.nextSiblingElement(textureTargetTag))
         m_textureTargets.append(ZRTextureTarget(target));
 
-    const QDomElement cupRing = preview.firstChildElement(QStringLiteral("cupRing"));
-    if (!cupRing.isNull())
+    const QDomElement cupRing = preview.firstChildElement(cupRingVocabulary.element());
+    if (!cupRing.isNull()) {
+        cupRingVocabulary.check(cupRing);
         m_cupRingRect = ZRXMLParser::readRectF(cupRing.attributes());
+    }
 
-    const QDomElement camera = preview.firstChildElement(QStringLiteral("camera"));
+    const QDomElement camera = preview.firstChildElement(cameraVocabulary.element());
     if (!camera.isNull()) {
-        m_cameraPosition = readPoint(camera, QStringLiteral("position"));
-        m_cameraLookAt = readPoint(camera, QStringLiteral("lookAt"));
+        cameraVocabulary.check(camera);
+        m_cameraPosition = readPoint(camera, positionVocabulary);
+        m_cameraLookAt = readPoint(camera, lookAtVocabulary);
     }
-    const QDomElement cameraBig = preview.firstChildElement(QStringLiteral("cameraBig"));
+    const QDomElement cameraBig = preview.firstChildElement(cameraBigVocabulary.element());
     if (!cameraBig.isNull()) {
-        m_cameraBigPosition = readPoint(cameraBig, QStringLiteral("position"));
-        m_cameraBigLookAt = readPoint(cameraBig, QStringLiteral("lookAt"));
+        cameraBigVocabulary.check(cameraBig);
+        m_cameraBigPosition = readPoint(cameraBig, positionVocabulary);
+        m_cameraBigLookAt = readPoint(cameraBig, lookAtVocabulary);
     }
 
-    const QDomElement windowSize = preview.firstChildElement(QStringLiteral("windowSize"));
-    if (!windowSize.isNull())
+    const QDomElement windowSize = preview.firstChildElement(windowSizeVocabulary.element());
+    if (!windowSize.isNull()) {
+        windowSizeVocabulary.check(windowSize);
         m_windowSize = ZRXMLParser::readSize(windowSize);
+    }
 }
 
 QUrl ZRPreview3DDescription::url(bool big) const

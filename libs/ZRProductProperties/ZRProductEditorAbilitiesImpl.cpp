@@ -1,9 +1,22 @@
 #include "ZRProductEditorAbilitiesImpl.h"
 
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
 
 // Answers for every jig type without an entry of its own.
 static const ZRJigEditorAbilities defaultAbilites;
+
+namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("editorAbilities"), { QStringLiteral("convertable") },
+    { QStringLiteral("assistant"), QStringLiteral("pageNamingStyle"), QStringLiteral("pageTilt"),
+        QStringLiteral("startPage"), QStringLiteral("dateRangeConstraint"), QStringLiteral("jigs") });
+const ZRXMLVocabulary assistantVocabulary(QStringLiteral("assistant"), { QStringLiteral("enabled") }, {});
+const ZRXMLVocabulary pageNamingStyleVocabulary(QStringLiteral("pageNamingStyle"), {}, {});
+const ZRXMLVocabulary startPageVocabulary(QStringLiteral("startPage"), {}, {});
+const ZRXMLVocabulary jigsVocabulary(QStringLiteral("jigs"), { QStringLiteral("showChangeBaseDesignButton") },
+    ZRJigType::elementNames(), ZRXMLVocabulary::KeyedChildren);
+} // namespace
 
 ZRProductEditorAbilitiesImpl::ZRProductEditorAbilitiesImpl() = default;
 
@@ -12,21 +25,30 @@ ZRProductEditorAbilitiesImpl::ZRProductEditorAbilitiesImpl(const QDomElement &el
     if (element.tagName() != QLatin1String("editorAbilities"))
         return;
 
-    m_hasAssistant = ZRXMLParser::boolAttribute(
-        element.firstChildElement(QStringLiteral("assistant")), QStringLiteral("enabled"), false);
+    vocabulary.check(element);
+    const QDomElement assistant = element.firstChildElement(assistantVocabulary.element());
+    assistantVocabulary.check(assistant);
+    m_hasAssistant = ZRXMLParser::boolAttribute(assistant, QStringLiteral("enabled"), false);
     m_convertable = ZRXMLParser::boolAttribute(element, QStringLiteral("convertable"), true);
-    m_pageNamingStyle = ZRPageNamingStyle(element.firstChildElement(QStringLiteral("pageNamingStyle")).text());
+    const QDomElement pageNamingStyle = element.firstChildElement(pageNamingStyleVocabulary.element());
+    pageNamingStyleVocabulary.check(pageNamingStyle);
+    ZRXMLDiagnostics::checkKeys<ZRPageNamingStyle>(pageNamingStyle, QStringLiteral("page naming style"));
+    m_pageNamingStyle = ZRPageNamingStyle(pageNamingStyle.text());
     m_userPageTiltConfig = ZRUserPageTiltConfig(element.firstChildElement(QStringLiteral("pageTilt")));
-    m_editorStartPage = ZRXMLParser::intText(element, QStringLiteral("startPage"), 0);
+    startPageVocabulary.check(element.firstChildElement(startPageVocabulary.element()));
+    m_editorStartPage = ZRXMLParser::intText(element, startPageVocabulary.element(), 0);
     m_dateRangeConstraint = ZRDateRangeConstraint(element.firstChildElement(QStringLiteral("dateRangeConstraint")));
 
-    const QDomElement jigs = element.firstChildElement(QStringLiteral("jigs"));
+    const QDomElement jigs = element.firstChildElement(jigsVocabulary.element());
+    jigsVocabulary.check(jigs);
     m_showChangeBaseDesignButton
         = ZRXMLParser::boolAttribute(jigs, QStringLiteral("showChangeBaseDesignButton"), false);
     // Every child node counts, not only elements: a comment or text node has an empty tag name and
     // so stores default abilities under jig type 0, an entry that takes part in equality.
     for (QDomNode node = jigs.firstChild(); !node.isNull(); node = node.nextSibling()) {
         const QDomElement jig = node.toElement();
+        if (!jig.isNull() && ZRXMLDiagnostics::isActive())
+            ZRXMLDiagnostics::checkKeys(jig.tagName(), jigsVocabulary.children(), QStringLiteral("jig type"), jig);
         m_jigs.insert(ZRJigType(jig.tagName()), ZRJigEditorAbilities(jig));
     }
 }

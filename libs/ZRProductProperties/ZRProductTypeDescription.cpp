@@ -4,7 +4,9 @@
 #include "ZRJigType.h"
 #include "ZRPageListDecoder.h"
 #include "ZRSurroundingKey.h"
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
 
 #include <QDomNamedNodeMap>
 
@@ -14,17 +16,64 @@
 namespace {
 const QString nameAttribute = QStringLiteral("name");
 
+const ZRXMLVocabulary vocabulary(QStringLiteral("product"),
+    { nameAttribute, QStringLiteral("isVario"), QStringLiteral("isTwoSided"), QStringLiteral("class"),
+        QStringLiteral("imageFXs"), QStringLiteral("binding"), QStringLiteral("horizontalPages"),
+        QStringLiteral("productAlignment"), QStringLiteral("hasLogoOnSpine"), QStringLiteral("foldsafetymargin"),
+        QStringLiteral("replacedBy"), QStringLiteral("conversionStrategy"), QStringLiteral("spotColor"),
+        QStringLiteral("safetymargin"), QStringLiteral("safetymargincover") },
+    { QStringLiteral("surroundings"), QStringLiteral("rotationredirects"), QStringLiteral("contentredirects"),
+        QStringLiteral("defaults"), QStringLiteral("tilt"), QStringLiteral("variants"),
+        QStringLiteral("productionnumbering"), QStringLiteral("pageswithcontent"), QStringLiteral("pages"),
+        QStringLiteral("pageNumberConfig"), QStringLiteral("extra_production_pages"), QStringLiteral("editorAbilities"),
+        QStringLiteral("pricelist"), QStringLiteral("barcodes"), QStringLiteral("classification"),
+        QStringLiteral("preview3D") });
+const ZRXMLVocabulary tiltVocabulary(QStringLiteral("tilt"), { QStringLiteral("angle") }, {});
+const ZRXMLVocabulary productionNumberingVocabulary(QStringLiteral("productionnumbering"), {}, {});
+const ZRXMLVocabulary pagesWithContentVocabulary(QStringLiteral("pageswithcontent"), {}, {});
+const ZRXMLVocabulary pagesVocabulary(QStringLiteral("pages"), {}, {});
+const ZRXMLVocabulary pageNumberConfigVocabulary(
+    QStringLiteral("pageNumberConfig"), {}, { QStringLiteral("margin"), QStringLiteral("font") });
+const ZRXMLVocabulary marginVocabulary(
+    QStringLiteral("margin"), { QStringLiteral("verticalMargin"), QStringLiteral("horizontalMargin") }, {});
+const ZRXMLVocabulary fontVocabulary(QStringLiteral("font"), { QStringLiteral("fontSize") }, {});
+const ZRXMLVocabulary priceListVocabulary(QStringLiteral("pricelist"), {}, { QStringLiteral("category") });
+const ZRXMLVocabulary priceListCategoryVocabulary(QStringLiteral("category"), {}, {});
+
 // The article class that is valid without a cover type.
 constexpr quint64 classWithoutCoverType = quint64(1) << 44;
 constexpr ZRPageTypeEnum coverPages = ZRPageTypeCovers;
 constexpr ZRPageTypeEnum allPages = ZRPageTypeAll;
 
-QList<int> readIntList(const QDomElement &productElement, const QString &childName)
+/** The integer list of the child of @p productElement that @p childVocabulary is of. */
+QList<int> readIntList(const QDomElement &productElement, const ZRXMLVocabulary &childVocabulary)
 {
-    const QDomElement child = productElement.firstChildElement(childName);
+    const QDomElement child = productElement.firstChildElement(childVocabulary.element());
     if (child.isNull())
         return {};
-    return ZRPageListDecoder::decode(child.text(), ZRPageListDecoder::NoRanges);
+    childVocabulary.check(child);
+    return ZRPageListDecoder::decode(child.text(), ZRPageListDecoder::NoRanges, child);
+}
+
+/** Reports the parts of the product's enumerated attributes and of its page list that decode to nothing. */
+void checkKeys(const QDomElement &productElement, const QDomElement &pages)
+{
+    const QDomNamedNodeMap attributes = productElement.attributes();
+    ZRXMLDiagnostics::checkKeys<ZRArticleClass>(
+        attributes.namedItem(QStringLiteral("class")), QStringLiteral("article class"));
+    ZRXMLDiagnostics::checkKeys<ZRImageFXs>(
+        attributes.namedItem(QStringLiteral("imageFXs")), QStringLiteral("image effect"));
+    ZRXMLDiagnostics::checkKeys<ZRCoverType>(
+        attributes.namedItem(QStringLiteral("binding")), QStringLiteral("binding"));
+    ZRXMLDiagnostics::checkKeys<ZRProductAlignmentStyle>(
+        attributes.namedItem(QStringLiteral("productAlignment")), QStringLiteral("product alignment"));
+    ZRXMLDiagnostics::checkKeys<ZRXMLRewriterStrategy>(
+        attributes.namedItem(QStringLiteral("conversionStrategy")), QStringLiteral("conversion strategy"));
+    // Every part of the list becomes a spot colour, an empty one included.
+    ZRXMLDiagnostics::checkKeys<ZRSpotColor>(
+        attributes.namedItem(QStringLiteral("spotColor")), QStringLiteral("spot colour"), true);
+    // An empty entry of the page list becomes page type 0, which the page expansion warns about.
+    ZRXMLDiagnostics::checkKeys<ZRPageType>(pages, QStringLiteral("page type"));
 }
 
 /** Appends the entries of @p pattern, starting again after its last entry, until @p count entries were added. */
@@ -46,6 +95,7 @@ ZRProductTypeDescription &ZRProductTypeDescription::operator=(ZRProductTypeDescr
 ZRProductTypeDescription::ZRProductTypeDescription(const QDomElement &productElement)
     : m_classification(productElement)
 {
+    vocabulary.check(productElement);
     const QDomNamedNodeMap attributes = productElement.attributes();
     const auto text = [&attributes](const QString &name, const QString &defaultValue = QString()) {
         return ZRXMLParser::attribute(attributes, name, defaultValue, true);
@@ -73,26 +123,32 @@ ZRProductTypeDescription::ZRProductTypeDescription(const QDomElement &productEle
     m_contentDropRedirects
         = ZRContentDropRedirectList(productElement.firstChildElement(QStringLiteral("contentredirects")));
     m_defaultTemplates = ZRDefaultTemplateMap(productElement.firstChildElement(QStringLiteral("defaults")));
-    m_tiltAngle = ZRXMLParser::readAngle(
-        productElement.firstChildElement(QStringLiteral("tilt")), QStringLiteral("angle"), 270);
+    const QDomElement tilt = productElement.firstChildElement(tiltVocabulary.element());
+    tiltVocabulary.check(tilt);
+    m_tiltAngle = ZRXMLParser::readAngle(tilt, QStringLiteral("angle"), 270);
     m_variants = ZRConfiguredArticleVariantList(productElement);
-    m_productionNumbering = readIntList(productElement, QStringLiteral("productionnumbering"));
-    m_pagesWithContent = readIntList(productElement, QStringLiteral("pageswithcontent"));
+    m_productionNumbering = readIntList(productElement, productionNumberingVocabulary);
+    m_pagesWithContent = readIntList(productElement, pagesWithContentVocabulary);
 
-    m_pages = ZRPageTypeList(productElement.firstChildElement(QStringLiteral("pages")).text());
+    const QDomElement pages = productElement.firstChildElement(pagesVocabulary.element());
+    pagesVocabulary.check(pages);
+    m_pages = ZRPageTypeList(pages.text());
     m_hasSpine = m_pages.pageTypes().contains(ZRPageType(ZRPageTypeSpine))
         || m_pages.pageTypes().contains(ZRPageType(ZRPageTypeWrapCover));
     m_hasTextOnSpine = m_hasSpine && !m_pages.containsMatch(ZRPageType(ZRPageTypeInsideCovers));
 
     const ZRDistanceUnit tenthMillimetre(ZRDistanceUnitTenthMM);
-    const QDomElement pageNumberConfig = productElement.firstChildElement(QStringLiteral("pageNumberConfig"));
-    const QDomElement margin = pageNumberConfig.firstChildElement(QStringLiteral("margin"));
+    const QDomElement pageNumberConfig = productElement.firstChildElement(pageNumberConfigVocabulary.element());
+    const QDomElement margin = pageNumberConfig.firstChildElement(marginVocabulary.element());
+    const QDomElement font = pageNumberConfig.firstChildElement(fontVocabulary.element());
+    pageNumberConfigVocabulary.check(pageNumberConfig);
+    marginVocabulary.check(margin);
+    fontVocabulary.check(font);
     m_pageNumberVerticalIndent
         = ZRXMLParser::readDistance(margin, QStringLiteral("verticalMargin"), 50.0, tenthMillimetre);
     m_pageNumberHorizontalIndent
         = ZRXMLParser::readDistance(margin, QStringLiteral("horizontalMargin"), 50.0, tenthMillimetre);
-    m_pageNumberFontSize = ZRXMLParser::intAttribute(
-        pageNumberConfig.firstChildElement(QStringLiteral("font")), QStringLiteral("fontSize"), 24);
+    m_pageNumberFontSize = ZRXMLParser::intAttribute(font, QStringLiteral("fontSize"), 24);
 
     m_extraProductionPages
         = ZRProductionExtraPageGroupList(productElement.firstChildElement(QStringLiteral("extra_production_pages")));
@@ -108,8 +164,10 @@ ZRProductTypeDescription::ZRProductTypeDescription(const QDomElement &productEle
             m_includedSpotColors.append(ZRSpotColor(name));
     }
 
-    const QDomElement priceCategory
-        = productElement.firstChildElement(QStringLiteral("pricelist")).firstChildElement(QStringLiteral("category"));
+    const QDomElement priceList = productElement.firstChildElement(priceListVocabulary.element());
+    const QDomElement priceCategory = priceList.firstChildElement(priceListCategoryVocabulary.element());
+    priceListVocabulary.check(priceList);
+    priceListCategoryVocabulary.check(priceCategory);
     if (!priceCategory.isNull())
         m_priceListCategory = priceCategory.text();
 
@@ -121,6 +179,9 @@ ZRProductTypeDescription::ZRProductTypeDescription(const QDomElement &productEle
     m_barcodeDefinitions = ZRBarcodeDefinitionList::createFromProductsXML(
         productElement.firstChildElement(QStringLiteral("barcodes")), tenthMillimetre);
     m_preview3D = ZRPreview3DDescription(productElement);
+
+    if (ZRXMLDiagnostics::isActive())
+        checkKeys(productElement, pages);
 }
 
 ZRSurroundingDescription ZRProductTypeDescription::findSurrounding(const ZRSurroundingKey &key) const

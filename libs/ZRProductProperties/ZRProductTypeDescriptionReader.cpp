@@ -2,12 +2,14 @@
 
 #include "ZRProductTypeDescription.h"
 #include "ZRXMLLoader.h"
+#include "ZRXMLVocabulary.h"
 
 #include <QtGlobal>
 
 namespace {
 const QString productElementName = QStringLiteral("product");
-}
+const ZRXMLVocabulary vocabulary(QStringLiteral("products"), {}, { productElementName });
+} // namespace
 
 ZRProductTypeDescriptionReader::ZRProductTypeDescriptionReader(const QDir &dir)
     : m_dir(dir)
@@ -29,6 +31,7 @@ ZRProductTypeDescription *ZRProductTypeDescriptionReader::readFile(const QFileIn
             .warning("could not open %s", qUtf8Printable(file.absoluteFilePath()));
         return nullptr;
     }
+    vocabulary.check(root);
     return new ZRProductTypeDescription(root.firstChildElement(productElementName));
 }
 

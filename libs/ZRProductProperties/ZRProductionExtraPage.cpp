@@ -1,6 +1,12 @@
 #include "ZRProductionExtraPage.h"
 
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
+
+namespace {
+const ZRXMLVocabulary vocabulary(
+    QStringLiteral("pdf"), { QStringLiteral("filename"), QStringLiteral("type"), QStringLiteral("layer") }, {});
+}
 
 ZRProductionExtraPage::ZRProductionExtraPage() = default;
 
@@ -8,7 +14,9 @@ ZRProductionExtraPage::ZRProductionExtraPage(const QDomElement &element)
     : m_filename(ZRXMLParser::attribute(element, QStringLiteral("filename"), QString(), true))
     , m_templateType(ZRXMLParser::attribute(element, QStringLiteral("type"), QString(), true))
     , m_targetLayer(ZRXMLParser::intAttribute(element, QStringLiteral("layer"), 0))
-{ }
+{
+    vocabulary.check(element);
+}
 
 ZRProductionExtraPage::~ZRProductionExtraPage() = default;
 

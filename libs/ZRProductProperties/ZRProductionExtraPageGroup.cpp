@@ -1,19 +1,28 @@
 #include "ZRProductionExtraPageGroup.h"
 
 #include "ZRPageListDecoder.h"
+#include "ZRXMLVocabulary.h"
+
+namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("item"), {}, { QStringLiteral("target_pages"), QStringLiteral("pdf") });
+const ZRXMLVocabulary targetPagesVocabulary(QStringLiteral("target_pages"), {}, {});
+} // namespace
 
 ZRProductionExtraPageGroup::ZRProductionExtraPageGroup() = default;
 
 ZRProductionExtraPageGroup::ZRProductionExtraPageGroup(const QDomElement &element)
     : m_targetPages(decodeIntList(element.firstChildElement(QStringLiteral("target_pages"))))
     , m_content(element.firstChildElement(QStringLiteral("pdf")))
-{ }
+{
+    vocabulary.check(element);
+}
 
 ZRProductionExtraPageGroup::~ZRProductionExtraPageGroup() = default;
 
 QList<int> ZRProductionExtraPageGroup::decodeIntList(const QDomElement &element) const
 {
-    return ZRPageListDecoder::decode(element.text(), ZRPageListDecoder::LenientRanges);
+    targetPagesVocabulary.check(element);
+    return ZRPageListDecoder::decode(element.text(), ZRPageListDecoder::LenientRanges, element);
 }
 
 bool ZRProductionExtraPageGroup::operator==(const ZRProductionExtraPageGroup &other) const

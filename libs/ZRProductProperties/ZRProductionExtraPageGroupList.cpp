@@ -1,17 +1,23 @@
 #include "ZRProductionExtraPageGroupList.h"
 
 #include "ZRPageListDecoder.h"
+#include "ZRXMLVocabulary.h"
+
+namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("extra_production_pages"), {}, { QStringLiteral("item") });
+}
 
 ZRProductionExtraPageGroupList::ZRProductionExtraPageGroupList() = default;
 
 ZRProductionExtraPageGroupList::ZRProductionExtraPageGroupList(const QDomElement &element)
 {
+    vocabulary.check(element);
     qint64 pages = 0;
     for (QDomElement item = element.firstChildElement(QStringLiteral("item")); !item.isNull();
          item = item.nextSiblingElement(QStringLiteral("item"))) {
         m_groups.append(ZRProductionExtraPageGroup(item));
         pages += m_groups.constLast().targetPages().size();
-        if (!ZRPageListDecoder::isWithinLimit(pages)) {
+        if (!ZRPageListDecoder::isWithinLimit(pages, element)) {
             m_groups.clear();
             return;
         }

@@ -2,8 +2,10 @@
 
 #include "ZRCSSSkinManager.h"
 #include "ZRDirectoryConfig.h"
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLLimits.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
 
 #include <QMutex>
 #include <QMutexLocker>
@@ -14,6 +16,14 @@
 #include <limits>
 
 namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("spirals"),
+    { QStringLiteral("count"), QStringLiteral("hookWidth"), QStringLiteral("hookHeight"), QStringLiteral("loopHeight"),
+        QStringLiteral("loopWidth"), QStringLiteral("loopDistance"), QStringLiteral("variant") },
+    { QStringLiteral("loopImages") });
+const ZRXMLVocabulary loopImagesVocabulary(QStringLiteral("loopImages"), {}, { QStringLiteral("loopImage") });
+const ZRXMLVocabulary loopImageVocabulary(
+    QStringLiteral("loopImage"), { QStringLiteral("variant"), QStringLiteral("imagePath") }, {});
+
 QString defaultLoopImageName()
 {
     return QStringLiteral("spiralbinding-one-loop-vertical.png");
@@ -39,13 +49,21 @@ ZRSpiralConfig::ZRSpiralConfig(const QDomElement &element)
     , m_loopDistance(ZRXMLParser::intAttribute(element, QStringLiteral("loopDistance"), 30))
     , m_loopImageName(ZRXMLParser::attribute(element, QStringLiteral("variant"), defaultLoopImageName(), true))
 {
-    const QDomElement loopImages = element.firstChildElement(QStringLiteral("loopImages"));
-    for (QDomElement loopImage = loopImages.firstChildElement(QStringLiteral("loopImage")); !loopImage.isNull();
-         loopImage = loopImage.nextSiblingElement(QStringLiteral("loopImage"))) {
+    vocabulary.check(element);
+    const QDomElement loopImages = element.firstChildElement(loopImagesVocabulary.element());
+    loopImagesVocabulary.check(loopImages);
+    for (QDomElement loopImage = loopImages.firstChildElement(loopImageVocabulary.element()); !loopImage.isNull();
+         loopImage = loopImage.nextSiblingElement(loopImageVocabulary.element())) {
+        loopImageVocabulary.check(loopImage);
         const QString variant = ZRXMLParser::attribute(loopImage, QStringLiteral("variant"), QString(), true);
         const QString imagePath = ZRXMLParser::attribute(loopImage, QStringLiteral("imagePath"), QString(), true);
-        if (variant.isEmpty() || imagePath.isEmpty())
+        if (variant.isEmpty() || imagePath.isEmpty()) {
+            if (ZRXMLDiagnostics::isActive()) {
+                ZRXMLDiagnostics::report(ZRXMLFinding::Warning, QStringLiteral("ignored-element"),
+                    QStringLiteral("<loopImage> without a 'variant' and an 'imagePath' is ignored"), loopImage);
+            }
             continue;
+        }
         m_loopImagesByColor.insert(variant, imagePath);
     }
 }

@@ -2,7 +2,9 @@
 
 #include "ZRPageContext.h"
 #include "ZRSurroundingKey.h"
+#include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLVocabulary.h"
 
 #include <QDomElement>
 #include <QDomNamedNodeMap>
@@ -13,6 +15,32 @@ namespace {
 // A frame is printed on every page, whatever the description says.
 constexpr auto framePageTypes = ZRPageTypeEnum(0xF03F9);
 constexpr auto frameAlignments = ZRPageAlignmentEnum(0x7F);
+
+const ZRXMLVocabulary vocabulary(QStringLiteral("surrounding"),
+    { QStringLiteral("type"), QStringLiteral("pageType"), QStringLiteral("alignment"), QStringLiteral("pageNr"),
+        QStringLiteral("paintOnTop"), QStringLiteral("canBeHiddenByUser"), QStringLiteral("hideGrafikInPreview"),
+        QStringLiteral("image"), QStringLiteral("imageSpotColor"), QStringLiteral("spotColor"),
+        QStringLiteral("spotColorMask"), QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"),
+        QStringLiteral("height"), QStringLiteral("hasbindingshade"), QStringLiteral("hasspinefold"),
+        QStringLiteral("spinefoldwidth"), QStringLiteral("variant"), QStringLiteral("tileHeight"),
+        QStringLiteral("tileWidth") },
+    { QStringLiteral("hole"), QStringLiteral("spirals") });
+
+/** Reports the parts of the enumerated attributes and of the mask that decode to nothing. */
+void checkValues(const QDomNamedNodeMap &attributes)
+{
+    ZRXMLDiagnostics::checkKeys<ZRSurroundingType>(
+        attributes.namedItem(QStringLiteral("type")), QStringLiteral("surrounding type"));
+    ZRXMLDiagnostics::checkKeys<ZRPageType>(
+        attributes.namedItem(QStringLiteral("pageType")), QStringLiteral("page type"));
+    ZRXMLDiagnostics::checkKeys<ZRPageAlignment>(
+        attributes.namedItem(QStringLiteral("alignment")), QStringLiteral("alignment"));
+    ZRXMLDiagnostics::checkKeys<ZRSpotColor>(
+        attributes.namedItem(QStringLiteral("spotColor")), QStringLiteral("spot colour"));
+
+    const QDomNode mask = attributes.namedItem(QStringLiteral("spotColorMask"));
+    ZRSurroundingDescription::parseMask(mask.nodeValue(), mask);
+}
 } // namespace
 
 ZRSurroundingDescription::ZRSurroundingDescription() = default;
@@ -46,6 +74,9 @@ ZRSurroundingDescription::ZRSurroundingDescription(
     , m_tileSize(ZRXMLParser::intAttribute(attributes, QStringLiteral("tileWidth"), -1),
           ZRXMLParser::intAttribute(attributes, QStringLiteral("tileHeight"), -1))
 {
+    vocabulary.check(element);
+    if (ZRXMLDiagnostics::isActive())
+        checkValues(attributes);
     if (m_surroundingType == ZRSurroundingTypeFrame) {
         m_pageTypes = ZRPageType(framePageTypes);
         m_alignments = ZRPageAlignment(frameAlignments);
@@ -86,16 +117,33 @@ bool ZRSurroundingDescription::isSuitable(const ZRSurroundingKey &key) const
     return ownKey.isOkayFor(key);
 }
 
-QList<QRect> ZRSurroundingDescription::parseMask(const QString &text)
+QList<QRect> ZRSurroundingDescription::parseMask(const QString &text, const QDomNode &node)
 {
+    const bool reporting = ZRXMLDiagnostics::isActive() && !node.isNull();
     QList<QRect> result;
     const QList<QStringView> parts = QStringView(text).split(u';', Qt::SkipEmptyParts);
     for (const QStringView part : parts) {
         const QList<QStringView> fields = part.split(u' ', Qt::SkipEmptyParts);
-        if (fields.size() != 4)
+        if (fields.size() != 4) {
+            if (reporting) {
+                ZRXMLDiagnostics::report(ZRXMLFinding::Warning, QStringLiteral("not-a-rectangle"),
+                    QStringLiteral("'%1' in the mask is not four numbers; it and the rest of the mask are ignored")
+                        .arg(part.toString()),
+                    node, QStringLiteral("left top right bottom, rectangles separated by ';'"));
+            }
             break;
-        result.append(QRect(
-            QPoint(fields.at(0).toInt(), fields.at(1).toInt()), QPoint(fields.at(2).toInt(), fields.at(3).toInt())));
+        }
+        int corners[4];
+        for (int i = 0; i < 4; ++i) {
+            bool ok = false;
+            corners[i] = fields.at(i).toInt(&ok);
+            if (!ok && reporting) {
+                ZRXMLDiagnostics::report(ZRXMLFinding::Warning, QStringLiteral("not-a-number"),
+                    QStringLiteral("'%1' in the mask is not a whole number; 0 is used").arg(fields.at(i).toString()),
+                    node);
+            }
+        }
+        result.append(QRect(QPoint(corners[0], corners[1]), QPoint(corners[2], corners[3])));
     }
     return result;
 }

@@ -11,6 +11,7 @@
 #include "ZRSurroundingType.h"
 #include "zrproductproperties_export.h"
 
+#include <QDomNode>
 #include <QList>
 #include <QRect>
 #include <QSize>
@@ -82,9 +83,10 @@ public:
     /**
      * The rectangles of a mask text "l t r b;l t r b;...": corner coordinates, blank-separated,
      * parts separated by ';' (empty parts skipped). Reading stops at the first part without
-     * exactly four fields; a field that is no number counts as 0.
+     * exactly four fields; a field that is no number counts as 0. Both are reported to a diagnostics
+     * collector on @p node, the attribute the text is from.
      */
-    static QList<QRect> parseMask(const QString &text);
+    static QList<QRect> parseMask(const QString &text, const QDomNode &node = QDomNode());
 
     bool operator==(const ZRSurroundingDescription &other) const;
     bool operator!=(const ZRSurroundingDescription &other) const { return !(*this == other); }

@@ -1,17 +1,25 @@
 #include "ZRSurroundingDescriptionList.h"
 
 #include "ZRSurroundingKey.h"
+#include "ZRXMLVocabulary.h"
 
 #include <QDomElement>
 
 #include <algorithm>
 
+namespace {
+const ZRXMLVocabulary vocabulary(QStringLiteral("surroundings"), {}, { QStringLiteral("surrounding") });
+}
+
 ZRSurroundingDescriptionList::ZRSurroundingDescriptionList() = default;
 
 ZRSurroundingDescriptionList::ZRSurroundingDescriptionList(const ZRProductType &productType, const QDomElement &element)
 {
-    const QString surroundingsTag = QStringLiteral("surroundings");
+    const QString surroundingsTag = vocabulary.element();
     const QString surroundingTag = QStringLiteral("surrounding");
+    for (QDomElement group = element.firstChildElement(surroundingsTag); !group.isNull();
+         group = group.nextSiblingElement(surroundingsTag))
+        vocabulary.check(group);
     const auto forEachSurrounding = [&](auto function) {
         for (QDomElement group = element.firstChildElement(surroundingsTag); !group.isNull();
              group = group.nextSiblingElement(surroundingsTag)) {

@@ -26,9 +26,10 @@ public:
      * The page numbers of a comma-separated list such as "1, 3, 5", in the given order. Pieces that
      * are not numbers are dropped. Unlike the page lists of production extra pages, this list has
      * no ranges: "3-5" is dropped, not expanded. A list of more than ZRXMLLimits::maxListPages pages
-     * gives none, with the warning "Page list too long in the product description.".
+     * gives none, with the warning "Page list too long in the product description.". Dropped pieces
+     * and a list over the limit are reported to a diagnostics collector on @p node, where the text is from.
      */
-    static QList<int> decodeIntList(const QString &text);
+    static QList<int> decodeIntList(const QString &text, const QDomNode &node = QDomNode());
 
     bool isDisabled() const { return m_disabled; }
     QList<int> pages() const { return m_pages; }

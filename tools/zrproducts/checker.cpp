@@ -1,58 +1,50 @@
 #include "checker.h"
 
 #include "descriptions.h"
+#include "rules.h"
 
-#include "ZRArticleClass.h"
-#include "ZRCoverType.h"
-#include "ZRImageFXs.h"
-#include "ZRJigType.h"
-#include "ZRPageAlignment.h"
-#include "ZRPageNamingStyle.h"
-#include "ZRPageType.h"
-#include "ZRProductAlignmentStyle.h"
+#include "ZRDirectoryConfig.h"
 #include "ZRProductTypeDescription.h"
 #include "ZRProductTypeDescriptionReader.h"
-#include "ZRSpotColor.h"
-#include "ZRSurroundingType.h"
 #include "ZRXMLLoader.h"
-#include "ZRXMLRewriterStrategy.h"
 
-#include <QDomElement>
+#include <QDomDocument>
+#include <QFile>
 #include <QFileInfo>
 #include <QMap>
+#include <QTextStream>
 
+#include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <memory>
+#include <tuple>
 
 namespace {
 WarningCollector *currentCollector = nullptr;
 
 const QString productElementName = QStringLiteral("product");
 
-/** The path of @p element from the document root; an index is added where siblings share its name. */
-QString pathOf(const QDomElement &element)
-{
-    QStringList steps;
-    for (QDomElement e = element; !e.isNull(); e = e.parentNode().toElement()) {
-        const QString name = e.tagName();
-        int index = 0;
-        int count = 0;
-        const QDomNode parent = e.parentNode();
-        for (QDomElement sibling = parent.firstChildElement(name); !sibling.isNull();
-             sibling = sibling.nextSiblingElement(name)) {
-            ++count;
-            if (sibling == e)
-                index = count;
-        }
-        steps.prepend(count > 1 ? QStringLiteral("%1[%2]").arg(name).arg(index) : name);
-    }
-    return QLatin1Char('/') + steps.join(QLatin1Char('/'));
-}
+/**
+ * The library's warnings whose fact its readers report as a finding too, with the rules of those
+ * findings: a warning is left out when its file has a finding of one of them.
+ */
+const std::pair<QString, QStringList> reportedWarnings[] = {
+    { QStringLiteral("could not open "),
+        { QStringLiteral("not-well-formed"), QStringLiteral("limit-exceeded"), QStringLiteral("unreadable-file") } },
+    { QStringLiteral("parse error"), { QStringLiteral("not-a-page-range"), QStringLiteral("ignored-element") } },
+    { QStringLiteral("Page list too long in the product description."), { QStringLiteral("list-too-long") } },
+    { QStringLiteral("Illegaler Seitentyp in der Produktbeschreibung."), { QStringLiteral("unknown-key") } },
+};
 
-QString attributePath(const QDomElement &element, const QString &attribute)
+bool isReported(const QString &warning, const QList<ZRXMLFinding> &findings)
 {
-    return pathOf(element) + QLatin1String("/@") + attribute;
+    for (const auto &[text, rules] : reportedWarnings) {
+        if (!warning.startsWith(text))
+            continue;
+        return std::any_of(findings.cbegin(), findings.cend(),
+            [&rules = rules](const ZRXMLFinding &finding) { return rules.contains(finding.rule); });
+    }
+    return false;
 }
 
 /** Messages with a repeat count when the same text came more than once, in order of first appearance. */
@@ -70,6 +62,88 @@ QStringList counted(const QStringList &messages)
         result.append(count > 1 ? QStringLiteral("%1 (%2 times)").arg(message).arg(count) : message);
     }
     return result;
+}
+
+/** "1 error", "2 errors". */
+QString counting(int count, const QString &thing)
+{
+    return QStringLiteral("%1 %2%3").arg(count).arg(thing, count == 1 ? QString() : QStringLiteral("s"));
+}
+
+/** Escape sequences of the terminal's colours, as compilers use them. */
+namespace Colour {
+    const char bold[] = "\033[1m";
+    const char red[] = "\033[1;31m";
+    const char magenta[] = "\033[1;35m";
+    const char cyan[] = "\033[1;36m";
+    const char green[] = "\033[1;32m";
+    const char reset[] = "\033[0m";
+} // namespace Colour
+
+const char *severityColour(ZRXMLFinding::Severity severity)
+{
+    switch (severity) {
+    case ZRXMLFinding::Error:
+        return Colour::red;
+    case ZRXMLFinding::Warning:
+        return Colour::magenta;
+    case ZRXMLFinding::Note:
+        break;
+    }
+    return Colour::cyan;
+}
+
+/** The lines of the files that findings are about, read once each. */
+class SourceLines
+{
+public:
+    /** Line @p line (1-based) of @p file without its line break; empty when there is none. */
+    QString line(const QString &file, int line)
+    {
+        auto it = m_lines.find(file);
+        if (it == m_lines.end()) {
+            QFile source(file);
+            QStringList lines;
+            if (source.open(QIODevice::ReadOnly))
+                lines = QString::fromUtf8(source.readAll()).split(QLatin1Char('\n'));
+            it = m_lines.insert(file, lines);
+        }
+        QString text = it.value().value(line - 1);
+        if (text.endsWith(QLatin1Char('\r')))
+            text.chop(1);
+        return text;
+    }
+
+private:
+    QHash<QString, QStringList> m_lines;
+};
+
+/** Writes @p finding as a compiler does: "file:line:col: severity: message; suggestion [rule]". */
+void printFinding(QTextStream &out, const ZRXMLFinding &finding, const FindingStyle &style, SourceLines *sources)
+{
+    const auto colour = [&style](const char *code) { return style.colour ? code : ""; };
+    QString place = finding.file;
+    if (finding.line > 0)
+        place += QStringLiteral(":%1:%2").arg(finding.line).arg(finding.column);
+    out << colour(Colour::bold) << place << ':' << colour(Colour::reset) << ' '
+        << colour(severityColour(finding.severity)) << ZRXMLFinding::severityName(finding.severity) << ':'
+        << colour(Colour::reset) << ' ' << finding.message;
+    if (!finding.suggestion.isEmpty())
+        out << "; " << finding.suggestion;
+    out << " [" << colour(severityColour(finding.severity)) << finding.rule << colour(Colour::reset) << "]\n";
+
+    if (!style.showSource || finding.line < 1)
+        return;
+    const QString line = sources->line(finding.file, finding.line);
+    if (line.isEmpty())
+        return;
+    // Tabs stay tabs below the line, so that the caret lines up however the terminal shows them.
+    QString indent = line.left(std::max(finding.column - 1, 0));
+    for (QChar &c : indent) {
+        if (c != QLatin1Char('\t'))
+            c = QLatin1Char(' ');
+    }
+    out << line << '\n' << indent << colour(Colour::green) << '^' << colour(Colour::reset) << '\n';
 }
 } // namespace
 
@@ -98,23 +172,71 @@ void WarningCollector::handle(QtMsgType type, const QMessageLogContext &context,
         std::fprintf(stderr, "%s\n", qUtf8Printable(message));
 }
 
-QString Problem::toText() const
+QString CatalogueChecker::checkFile(const QFileInfo &file, bool legacy)
 {
-    return file + QLatin1String(": ") + message;
+    ++m_fileCount;
+    const QString path = file.filePath();
+    ZRXMLDiagnostics diagnostics;
+    WarningCollector warnings;
+    const std::unique_ptr<ZRProductTypeDescription> description(
+        ZRProductTypeDescriptionReader(file.dir()).readFile(file));
+    const auto placeOf = [&path](const QDomNode &node) {
+        ZRXMLFinding place = ZRXMLDiagnostics::locate(node);
+        place.file = path;
+        return place;
+    };
+    Product product;
+    QDomElement element;
+    if (description) {
+        // Read once more to have the elements themselves, which know where they are.
+        const QDomElement root = ZRXMLLoader::loadDocument(file).documentElement();
+        element = root.firstChildElement(productElementName);
+        if (element.isNull()) {
+            ZRXMLDiagnostics::report(ZRXMLFinding::Error, QStringLiteral("no-product"),
+                QStringLiteral("no <%1> element in <%2>").arg(productElementName, root.tagName()), root);
+        }
+    }
+    if (!element.isNull()) {
+        product = { description->productType().name(), description->replacedByProduct().name(), placeOf(element),
+            placeOf(element.attributeNode(QStringLiteral("replacedBy"))) };
+        if (product.name.isEmpty()) {
+            ZRXMLDiagnostics::report(ZRXMLFinding::Error, QStringLiteral("no-name"),
+                QStringLiteral("<%1> has no name").arg(productElementName), element);
+        }
+        if (!description->isValid()) {
+            const QString articleClass = element.attribute(QStringLiteral("class"));
+            QString reason = QStringLiteral("it has no class");
+            if (description->articleClass().value() != 0)
+                reason = QStringLiteral("it has no binding, and its class '%1' needs one").arg(articleClass);
+            else if (element.hasAttribute(QStringLiteral("class")))
+                reason = QStringLiteral("its class '%1' gives article class 0").arg(articleClass);
+            ZRXMLDiagnostics::report(ZRXMLFinding::Error, QStringLiteral("invalid-product"),
+                QStringLiteral("product '%1' is invalid: %2").arg(product.name, reason), element);
+        }
+        const ZRDirectoryConfig *config = ZRSingleton<ZRDirectoryConfig>::instance();
+        Rules::checkProduct(
+            *description, element, { config->resourcesDir(), config->glimmerThumbnailsDirectory(false), legacy });
+        // The page list warns about page types that are none when it is expanded, not when it is read.
+        description->pageTypes(Descriptions::typicalContentPages);
+        m_products.insert(path, product);
+    }
+
+    QList<ZRXMLFinding> findings = diagnostics.takeFindings();
+    for (const QString &warning : counted(warnings.warnings())) {
+        if (isReported(warning, findings))
+            continue;
+        ZRXMLFinding finding;
+        finding.severity = ZRXMLFinding::Warning;
+        finding.rule = QStringLiteral("library-warning");
+        finding.message = QStringLiteral("the library warns: %1").arg(warning);
+        finding.file = path;
+        findings.append(finding);
+    }
+    m_findings.append(findings);
+    return product.name;
 }
 
-QJsonObject Problem::toJson() const
-{
-    QJsonObject object { { QStringLiteral("file"), file }, { QStringLiteral("kind"), kind },
-        { QStringLiteral("message"), message } };
-    if (!path.isEmpty())
-        object.insert(QStringLiteral("path"), path);
-    if (kind == QLatin1String("unknown-key"))
-        object.insert(QStringLiteral("key"), key);
-    return object;
-}
-
-QHash<QString, QString> CatalogueChecker::checkRegistry(const QList<QDir> &dirs)
+QHash<QString, QString> CatalogueChecker::checkRegistry(const QList<QDir> &dirs, bool legacy)
 {
     QHash<QString, QString> kept;
     for (const QDir &dir : dirs) {
@@ -123,29 +245,26 @@ QHash<QString, QString> CatalogueChecker::checkRegistry(const QList<QDir> &dirs)
         const QFileInfoList files = dir.entryInfoList(reader.fileFilter(), QDir::Files, QDir::Unsorted);
         QMap<QString, QStringList> filesByType;
         for (const QFileInfo &file : files) {
-            ++m_fileCount;
-            const QString type = checkFile(file);
+            const QString type = checkFile(file, legacy);
             if (!type.isEmpty())
                 filesByType[type].append(file.filePath());
         }
 
         for (auto it = filesByType.cbegin(); it != filesByType.cend(); ++it) {
-            const QString &type = it.key();
             QStringList candidates = it.value();
-            QString winner;
-            QString reason;
-            if (kept.contains(type)) {
-                winner = kept.value(type);
-                reason = QStringLiteral("an earlier directory wins");
-            } else {
-                winner = candidates.takeLast();
-                kept.insert(type, winner);
-                reason = QStringLiteral("the later file in the directory listing wins");
-            }
+            const QString winner = candidates.takeLast();
             for (const QString &loser : std::as_const(candidates)) {
-                report(loser, QStringLiteral("duplicate"),
-                    QStringLiteral("product type \"%1\" is described twice; the registry keeps the one in %2 (%3)")
-                        .arg(type, winner, reason));
+                report(m_products.value(loser).place, ZRXMLFinding::Error, QStringLiteral("duplicate-product"),
+                    QStringLiteral("product '%1' is described again in %2, which the registry keeps (the later file "
+                                   "in the directory listing wins)")
+                        .arg(it.key(), winner));
+            }
+            if (kept.contains(it.key())) {
+                report(m_products.value(kept.value(it.key())).place, ZRXMLFinding::Note,
+                    QStringLiteral("overrides-product"),
+                    QStringLiteral("product '%1' overrides its description in %2").arg(it.key(), winner));
+            } else {
+                kept.insert(it.key(), winner);
             }
         }
     }
@@ -155,186 +274,67 @@ QHash<QString, QString> CatalogueChecker::checkRegistry(const QList<QDir> &dirs)
 void CatalogueChecker::checkReplacements(const QHash<QString, QString> &legacy, const QHash<QString, QString> &current)
 {
     for (auto it = legacy.cbegin(); it != legacy.cend(); ++it) {
-        const QString replacement = m_replacedBy.value(it.value());
-        if (!replacement.isEmpty() && !current.contains(replacement)) {
-            report(it.value(), QStringLiteral("replaced-by"),
-                QStringLiteral("legacy product \"%1\" is replaced by \"%2\", which no current product describes")
-                    .arg(it.key(), replacement));
+        const Product product = m_products.value(it.value());
+        if (!product.replacedBy.isEmpty() && !current.contains(product.replacedBy)) {
+            report(product.replacedByPlace, ZRXMLFinding::Error, QStringLiteral("unknown-replacement"),
+                QStringLiteral("legacy product '%1' is replaced by '%2', which no current product describes")
+                    .arg(it.key(), product.replacedBy));
         }
     }
 }
 
-QString CatalogueChecker::checkFile(const QFileInfo &file)
+int CatalogueChecker::count(ZRXMLFinding::Severity severity) const
 {
-    const QString path = file.filePath();
-    std::unique_ptr<ZRProductTypeDescription> description;
-    QStringList readWarnings;
-    {
-        WarningCollector collector;
-        description.reset(ZRProductTypeDescriptionReader(file.dir()).readFile(file));
-        readWarnings = collector.warnings();
-    }
-    if (!description) {
-        report(path, QStringLiteral("not-loaded"),
-            QStringLiteral("does not load: %1")
-                .arg(readWarnings.isEmpty() ? QStringLiteral("not a readable XML document")
-                                            : readWarnings.join(QLatin1String("; "))));
-        return QString();
-    }
-    for (const QString &warning : counted(readWarnings))
-        report(path, QStringLiteral("warning"), QStringLiteral("library warning while reading: %1").arg(warning));
-
-    const QDomElement root = ZRXMLLoader::loadDocumentElement(file);
-    const QDomElement product = root.firstChildElement(productElementName);
-    if (product.isNull()) {
-        report(path, QStringLiteral("no-product"),
-            QStringLiteral("no \"product\" element below the document element \"%1\"").arg(root.tagName()));
-        return QString();
-    }
-
-    const QString name = description->productType().name();
-    if (name.isEmpty())
-        report(path, QStringLiteral("no-name"), QStringLiteral("the \"product\" element has no \"name\""));
-    m_replacedBy.insert(path, description->replacedByProduct().name());
-
-    if (!description->isValid()) {
-        QString reason;
-        if (description->articleClass().value() == 0) {
-            reason = product.hasAttribute(QStringLiteral("class"))
-                ? QStringLiteral("its \"class\" \"%1\" gives article class 0")
-                      .arg(product.attribute(QStringLiteral("class")))
-                : QStringLiteral("it has no \"class\" (article class 0)");
-        } else {
-            reason = QStringLiteral("it has no binding (cover type 0) and its class \"%1\" needs one")
-                         .arg(product.attribute(QStringLiteral("class")));
-        }
-        report(path, QStringLiteral("invalid"), QStringLiteral("product \"%1\" is invalid: %2").arg(name, reason));
-    }
-
-    QStringList pageWarnings;
-    {
-        WarningCollector collector;
-        description->pageTypes(Descriptions::typicalContentPages);
-        pageWarnings = collector.warnings();
-    }
-    const QString pagesNote = product.firstChildElement(QStringLiteral("pages")).isNull()
-        ? QStringLiteral(" (there is no \"pages\" element)")
-        : QString();
-    for (const QString &warning : counted(pageWarnings)) {
-        report(path, QStringLiteral("warning"),
-            QStringLiteral("library warning while expanding the pages: %1%2").arg(warning, pagesNote));
-    }
-
-    checkKeys(path, product);
-    return name;
+    return int(std::count_if(m_findings.cbegin(), m_findings.cend(),
+        [severity](const ZRXMLFinding &finding) { return finding.severity == severity; }));
 }
 
-namespace {
-/** Reports every comma-separated key of @p text that the key table of @p W does not know. */
-template<typename W>
-void checkKeyList(const QString &text, const QString &what, bool emptyKeysCount,
-    const std::function<void(const QString &message, const QString &key)> &report)
+Report CatalogueChecker::report(const FindingStyle &style) const
 {
-    const auto *table = W().enumToStringTable();
-    const QStringList parts = text.split(QLatin1Char(','));
-    for (const QString &part : parts) {
-        const QString key = part.trimmed();
-        if (key.isEmpty()) {
-            if (emptyKeysCount)
-                report(QStringLiteral("empty %1").arg(what), key);
-        } else if (!table->containsKey(key)) {
-            report(QStringLiteral("unknown %1 \"%2\"").arg(what, key), key);
-        }
+    QList<ZRXMLFinding> findings = m_findings;
+    std::stable_sort(findings.begin(), findings.end(), [](const ZRXMLFinding &a, const ZRXMLFinding &b) {
+        return std::tie(a.file, a.line, a.column) < std::tie(b.file, b.line, b.column);
+    });
+    Table table({ { QStringLiteral("file"), QStringLiteral("FILE") },
+        { QStringLiteral("line"), QStringLiteral("LINE") }, { QStringLiteral("column"), QStringLiteral("COLUMN") },
+        { QStringLiteral("severity"), QStringLiteral("SEVERITY") }, { QStringLiteral("rule"), QStringLiteral("RULE") },
+        { QStringLiteral("message"), QStringLiteral("MESSAGE") },
+        { QStringLiteral("suggestion"), QStringLiteral("SUGGESTION") } });
+    for (const ZRXMLFinding &finding : std::as_const(findings)) {
+        table.addRow({ finding.file, finding.line, finding.column, ZRXMLFinding::severityName(finding.severity),
+            finding.rule, finding.message, finding.suggestion.isEmpty() ? QVariant() : QVariant(finding.suggestion) });
     }
-}
+    const int errors = count(ZRXMLFinding::Error);
+    const int warnings = count(ZRXMLFinding::Warning);
+    const int notes = count(ZRXMLFinding::Note);
+    Record summary;
+    summary.add(QStringLiteral("files"), m_fileCount)
+        .add(QStringLiteral("errors"), errors)
+        .add(QStringLiteral("warnings"), warnings)
+        .add(QStringLiteral("notes"), notes);
+    Record record;
+    record.add(QStringLiteral("findings"), table).add(QStringLiteral("summary"), summary);
 
-template<typename W>
-void checkAttribute(const QDomElement &element, const QString &attribute, const QString &what,
-    const std::function<void(const QString &, const QString &, const QString &)> &report, bool emptyKeysCount = false)
-{
-    if (!element.hasAttribute(attribute))
-        return;
-    const QString text = element.attribute(attribute);
-    if (text.isEmpty())
-        return;
-    const QString path = attributePath(element, attribute);
-    checkKeyList<W>(text, what, emptyKeysCount,
-        [&](const QString &message, const QString &key) { report(message + QLatin1String(" in ") + path, path, key); });
-}
-} // namespace
-
-void CatalogueChecker::checkKeys(const QString &file, const QDomElement &product)
-{
-    const auto unknown = [this, &file](const QString &message, const QString &path, const QString &key) {
-        report(file, QStringLiteral("unknown-key"), message, path, key);
-    };
-
-    checkAttribute<ZRArticleClass>(product, QStringLiteral("class"), QStringLiteral("article class"), unknown);
-    checkAttribute<ZRCoverType>(product, QStringLiteral("binding"), QStringLiteral("binding"), unknown);
-    checkAttribute<ZRImageFXs>(product, QStringLiteral("imageFXs"), QStringLiteral("image effect"), unknown);
-    checkAttribute<ZRProductAlignmentStyle>(
-        product, QStringLiteral("productAlignment"), QStringLiteral("product alignment"), unknown);
-    checkAttribute<ZRXMLRewriterStrategy>(
-        product, QStringLiteral("conversionStrategy"), QStringLiteral("conversion strategy"), unknown);
-    // Every part of the product's list becomes a spot colour, an empty one included.
-    checkAttribute<ZRSpotColor>(product, QStringLiteral("spotColor"), QStringLiteral("spot colour"), unknown, true);
-
-    // Empty or unknown entries of the page list become page type 0, which the library itself warns about.
-    const QDomElement pages = product.firstChildElement(QStringLiteral("pages"));
-    if (!pages.isNull()) {
-        const QString path = pathOf(pages);
-        checkKeyList<ZRPageType>(
-            pages.text(), QStringLiteral("page type"), false, [&](const QString &message, const QString &key) {
-                unknown(message + QLatin1String(" in ") + path, path, key);
-            });
-    }
-
-    for (QDomElement surroundings = product.firstChildElement(QStringLiteral("surroundings")); !surroundings.isNull();
-         surroundings = surroundings.nextSiblingElement(QStringLiteral("surroundings"))) {
-        for (QDomElement surrounding = surroundings.firstChildElement(QStringLiteral("surrounding"));
-             !surrounding.isNull(); surrounding = surrounding.nextSiblingElement(QStringLiteral("surrounding"))) {
-            checkAttribute<ZRSurroundingType>(
-                surrounding, QStringLiteral("type"), QStringLiteral("surrounding type"), unknown);
-            checkAttribute<ZRPageType>(surrounding, QStringLiteral("pageType"), QStringLiteral("page type"), unknown);
-            checkAttribute<ZRPageAlignment>(
-                surrounding, QStringLiteral("alignment"), QStringLiteral("alignment"), unknown);
-            checkAttribute<ZRSpotColor>(
-                surrounding, QStringLiteral("spotColor"), QStringLiteral("spot colour"), unknown);
-        }
-    }
-
-    const QDomElement defaults = product.firstChildElement(QStringLiteral("defaults"));
-    for (QDomElement entry = defaults.firstChildElement(QStringLiteral("default")); !entry.isNull();
-         entry = entry.nextSiblingElement(QStringLiteral("default"))) {
-        checkAttribute<ZRPageType>(entry, QStringLiteral("pageType"), QStringLiteral("page type"), unknown);
-        checkAttribute<ZRPageAlignment>(entry, QStringLiteral("alignment"), QStringLiteral("alignment"), unknown);
-    }
-
-    const QDomElement abilities = product.firstChildElement(QStringLiteral("editorAbilities"));
-    const QDomElement naming = abilities.firstChildElement(QStringLiteral("pageNamingStyle"));
-    if (!naming.isNull()) {
-        const QString path = pathOf(naming);
-        checkKeyList<ZRPageNamingStyle>(
-            naming.text(), QStringLiteral("page naming style"), false, [&](const QString &message, const QString &key) {
-                unknown(message + QLatin1String(" in ") + path, path, key);
-            });
-    }
-    const ZRJigType jigType;
-    const QDomElement jigs = abilities.firstChildElement(QStringLiteral("jigs"));
-    for (QDomElement jig = jigs.firstChildElement(); !jig.isNull(); jig = jig.nextSiblingElement()) {
-        if (!jigType.enumToStringTable()->containsKey(jig.tagName())) {
-            const QString path = pathOf(jig);
-            unknown(QStringLiteral("unknown jig type \"%1\" in %2").arg(jig.tagName(), path), path, jig.tagName());
-        }
-        for (QDomElement categories = jig.firstChildElement(QStringLiteral("categories")); !categories.isNull();
-             categories = categories.nextSiblingElement(QStringLiteral("categories"))) {
-            checkAttribute<ZRPageType>(categories, QStringLiteral("pageType"), QStringLiteral("page type"), unknown);
-        }
-    }
+    const int files = m_fileCount;
+    return Report(record, [findings, style, errors, warnings, notes, files](QTextStream &out) {
+        SourceLines sources;
+        for (const ZRXMLFinding &finding : findings)
+            printFinding(out, finding, style, &sources);
+        if (style.quiet)
+            return;
+        QStringList counts { counting(errors, QStringLiteral("error")), counting(warnings, QStringLiteral("warning")) };
+        if (notes > 0)
+            counts.append(counting(notes, QStringLiteral("note")));
+        out << counts.join(QLatin1String(", ")) << " in " << counting(files, QStringLiteral("file")) << '\n';
+    });
 }
 
 void CatalogueChecker::report(
-    const QString &file, const QString &kind, const QString &message, const QString &path, const QString &key)
+    const ZRXMLFinding &place, ZRXMLFinding::Severity severity, const QString &rule, const QString &message)
 {
-    m_problems.append({ file, kind, message, path, key });
+    ZRXMLFinding finding = place;
+    finding.severity = severity;
+    finding.rule = rule;
+    finding.message = message;
+    m_findings.append(finding);
 }

@@ -1,16 +1,17 @@
 #ifndef ZRPRODUCTS_CHECKER_H
 #define ZRPRODUCTS_CHECKER_H
 
+#include "report.h"
+
+#include "ZRXMLDiagnostics.h"
+
 #include <QDir>
 #include <QHash>
-#include <QJsonObject>
 #include <QList>
 #include <QString>
-
 #include <QStringList>
 #include <QtGlobal>
 
-class QDomElement;
 class QFileInfo;
 
 /**
@@ -35,38 +36,38 @@ private:
     QStringList m_warnings;
 };
 
-/** One finding of the catalogue check, attributed to a file. */
-struct Problem
+/** How findings read as text. */
+struct FindingStyle
 {
-    QString file;
-    /** What kind of problem: "not-loaded", "no-product", "no-name", "invalid", "duplicate", "warning",
-     * "unknown-key", "replaced-by". */
-    QString kind;
-    QString message;
-    /** The element path ("/products/product/surroundings/surrounding[2]/@type"), when there is one. */
-    QString path;
-    /** The key that decodes to nothing, for "unknown-key". */
-    QString key;
-
-    /** "file: message". */
-    QString toText() const;
-    QJsonObject toJson() const;
+    /** The source line of each finding that has a place, with a caret under its column. */
+    bool showSource = false;
+    bool colour = false;
+    /** The findings alone, without the summary line. */
+    bool quiet = false;
 };
 
 /**
- * Lints product description directories the way the registries read them: each file through the
- * library's reader with its warnings captured, then the product element's attributes and children
- * for keys that decode to nothing, and the directories together for product types described twice.
+ * Lints product description files the way the library reads them: each file through the library's
+ * reader while a ZRXMLDiagnostics collector is active, so that the readers report what they forgive
+ * with file, line and column, then the per-product rules; on top of that what no reader sees: a file
+ * without product or name, an invalid product, product types described twice, legacy products
+ * replaced by an unknown product. Library warnings that no finding reports become findings too.
  */
 class CatalogueChecker
 {
 public:
     /**
+     * Checks one file alone, as a legacy product when @p legacy is true; returns its product type name,
+     * empty when it has none or does not load.
+     */
+    QString checkFile(const QFileInfo &file, bool legacy = false);
+
+    /**
      * Checks @p dirs as one registry reads them: every "*.xml" file in listing order, the later file
      * of a directory replacing an earlier one of the same product type, and the first directory
      * winning over later ones. Returns the product types kept, with the file each was kept from.
      */
-    QHash<QString, QString> checkRegistry(const QList<QDir> &dirs);
+    QHash<QString, QString> checkRegistry(const QList<QDir> &dirs, bool legacy = false);
 
     /**
      * Reports every legacy product (of @p legacy, as returned by checkRegistry()) whose "replacedBy"
@@ -74,19 +75,31 @@ public:
      */
     void checkReplacements(const QHash<QString, QString> &legacy, const QHash<QString, QString> &current);
 
-    const QList<Problem> &problems() const { return m_problems; }
-    int fileCount() const { return m_fileCount; }
+    int count(ZRXMLFinding::Severity severity) const;
+
+    /**
+     * The findings sorted by file, line and column, with a summary of the counts: a table of findings
+     * and a summary record in JSON, one line per finding in the form "file:line:col: severity:
+     * message [rule]" and a summary line in text.
+     */
+    Report report(const FindingStyle &style) const;
 
 private:
-    /** Checks one file; returns its product type name (empty when it has none or does not load). */
-    QString checkFile(const QFileInfo &file);
-    void checkKeys(const QString &file, const QDomElement &product);
-    void report(const QString &file, const QString &kind, const QString &message, const QString &path = QString(),
-        const QString &key = QString());
+    /** Where a file's product is, and what the checks across files need of it. */
+    struct Product
+    {
+        QString name;
+        QString replacedBy;
+        ZRXMLFinding place;
+        ZRXMLFinding replacedByPlace;
+    };
 
-    QList<Problem> m_problems;
-    /** "replacedBy" of every product read, by product type. */
-    QHash<QString, QString> m_replacedBy;
+    void report(
+        const ZRXMLFinding &place, ZRXMLFinding::Severity severity, const QString &rule, const QString &message);
+
+    QList<ZRXMLFinding> m_findings;
+    /** The product of every file read, by file. */
+    QHash<QString, Product> m_products;
     int m_fileCount = 0;
 };
 

@@ -2,6 +2,7 @@
 #include "checker.h"
 #include "descriptions.h"
 #include "report.h"
+#include "schema.h"
 
 #include "ZRLegacyProductTypeConfigRegistry.h"
 #include "ZRProductTypeConfigRegistry.h"
@@ -11,12 +12,11 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTextStream>
 
-#include <algorithm>
 #include <cstdio>
+#include <unistd.h>
 
 namespace {
 enum ExitCode
@@ -34,10 +34,12 @@ Commands:
   show NAME            everything the description of a product knows
   pages NAME COUNT     the pages of a product with COUNT content pages, with
                        alignment, safety margin and default templates
-  check [DIR...]       lints description files; without DIR the catalogue's
+  check [PATH...]      lints description files, each FILE alone and each DIR as
+                       the registry reads it; without PATH the catalogue's
                        product directories and its legacy directory
   categories [NAME...] thematic categories with their names and colours;
                        without NAME the special and the colour categories
+  schema               the XML Schema of product description files
 
 Without --products and --resources (and without ZR_PRODUCTS_DIR,
 ZR_PRODUCTS_FALLBACK_DIR and ZR_RESOURCES_DIR in the environment) the bundled
@@ -45,8 +47,12 @@ sample catalogue is inspected. The first --products is the current products
 directory, the second the installed one; where both describe a product, the
 first wins. "check DIR..." reads its directories in the same way.
 
+"check" prints one line per finding, "file:line:col: severity: message [rule]",
+and on a terminal the source line with a caret under the column, in colour
+unless NO_COLOR is set.
+
 Exit status: 0 on success, 1 when "show" or "pages" names an unknown product
-or "check" finds problems, 2 on a usage error.)";
+or "check" finds an error (or a warning, with --werror), 2 on a usage error.)";
 
 QTextStream &out()
 {
@@ -72,140 +78,118 @@ int fail(ExitCode code, const QString &message)
     return code;
 }
 
-void printJson(const QJsonDocument &document)
-{
-    out() << document.toJson(QJsonDocument::Indented);
-}
-
 /** More content pages than any product has; a guard against expanding a mistyped count. */
 constexpr uint maximumContentPages = 9999;
 
-/** What every command gets: its arguments (after the command's name) and the chosen output form. */
+/** What every command gets: its arguments (after the command's name) and the options of the command line. */
 struct Invocation
 {
     QStringList arguments;
-    bool json = false;
+    bool quiet = false;
+    bool werror = false;
 };
 
-int listProducts(const Invocation &invocation)
+/** What a command gives back: the report to print and the exit status, or the message of a failure. */
+struct Outcome
 {
+    Outcome(const Report &report, ExitCode status = ExitSuccess)
+        : report(report)
+        , status(status)
+    { }
+
+    Report report;
+    ExitCode status;
+    QString error;
+};
+
+Outcome failure(ExitCode status, const QString &message)
+{
+    Outcome outcome(Report(), status);
+    outcome.error = message;
+    return outcome;
+}
+
+Outcome listProducts(const Invocation &invocation)
+{
+    if (!invocation.arguments.isEmpty())
+        return failure(ExitUsage, QStringLiteral("list takes no arguments"));
     Catalogue::load();
     Table current = Descriptions::productTable(false);
     Descriptions::addProducts(&current, Catalogue::registry(), false);
     Table legacy = Descriptions::productTable(true);
     Descriptions::addProducts(&legacy, Catalogue::legacyRegistry(), true);
-
-    if (invocation.json) {
-        QJsonArray products;
-        for (const auto &[table, isLegacy] : { std::pair(&current, false), std::pair(&legacy, true) }) {
-            const QJsonArray rows = table->toJson();
-            for (const QJsonValue &row : rows) {
-                QJsonObject object = row.toObject();
-                object.insert(QStringLiteral("legacy"), isLegacy);
-                products.append(object);
-            }
-        }
-        printJson(QJsonDocument(products));
-        return ExitSuccess;
-    }
-    current.print(out());
-    if (legacy.rowCount() > 0) {
-        out() << "\nLegacy products\n";
-        legacy.print(out());
-    }
-    return ExitSuccess;
+    Record record;
+    record.add(QStringLiteral("products"), current).add(QStringLiteral("legacyProducts"), legacy);
+    return { Report(record) };
 }
 
-int showProduct(const Invocation &invocation)
+Outcome showProduct(const Invocation &invocation)
 {
     if (invocation.arguments.size() != 1)
-        return fail(ExitUsage, QStringLiteral("show needs exactly one product name"));
+        return failure(ExitUsage, QStringLiteral("show needs exactly one product name"));
     Catalogue::load();
     bool legacy = false;
     const ZRProductTypeDescription *description = Catalogue::find(invocation.arguments.first(), &legacy);
     if (!description)
-        return fail(ExitFailure, QStringLiteral("unknown product \"%1\"").arg(invocation.arguments.first()));
-
-    const Record record = Descriptions::product(*description, legacy);
-    if (invocation.json)
-        printJson(QJsonDocument(record.toJson()));
-    else
-        record.print(out());
-    return ExitSuccess;
+        return failure(ExitFailure, QStringLiteral("unknown product \"%1\"").arg(invocation.arguments.first()));
+    return { Report(Descriptions::product(*description, legacy)) };
 }
 
-int showPages(const Invocation &invocation)
+Outcome showPages(const Invocation &invocation)
 {
     if (invocation.arguments.size() != 2)
-        return fail(ExitUsage, QStringLiteral("pages needs a product name and a number of content pages"));
+        return failure(ExitUsage, QStringLiteral("pages needs a product name and a number of content pages"));
     bool ok = false;
     const uint count = invocation.arguments.at(1).toUInt(&ok);
     if (!ok || count > maximumContentPages)
-        return fail(ExitUsage,
+        return failure(ExitUsage,
             QStringLiteral("not a number of pages from 0 to %1: %2")
                 .arg(maximumContentPages)
                 .arg(invocation.arguments.at(1)));
     Catalogue::load();
     const ZRProductTypeDescription *description = Catalogue::find(invocation.arguments.first());
     if (!description)
-        return fail(ExitFailure, QStringLiteral("unknown product \"%1\"").arg(invocation.arguments.first()));
-
-    const Table pages = Descriptions::pages(*description, count);
-    if (invocation.json)
-        printJson(QJsonDocument(pages.toJson()));
-    else
-        pages.print(out());
-    return ExitSuccess;
+        return failure(ExitFailure, QStringLiteral("unknown product \"%1\"").arg(invocation.arguments.first()));
+    return { Report(Descriptions::pages(*description, count)) };
 }
 
-int checkCatalogue(const Invocation &invocation)
+Outcome checkCatalogue(const Invocation &invocation)
 {
     CatalogueChecker checker;
-    QList<QDir> directories;
     if (!invocation.arguments.isEmpty()) {
+        QList<QFileInfo> files;
+        QList<QDir> directories;
         for (const QString &path : invocation.arguments) {
-            if (!QFileInfo(path).isDir())
-                return fail(ExitUsage, QStringLiteral("no such directory: %1").arg(path));
-            directories.append(QDir(path));
+            const QFileInfo info(path);
+            if (!info.exists())
+                return failure(ExitUsage, QStringLiteral("no such file or directory: %1").arg(path));
+            if (info.isDir())
+                directories.append(QDir(path));
+            else
+                files.append(info);
         }
+        for (const QFileInfo &file : std::as_const(files))
+            checker.checkFile(file);
         checker.checkRegistry(directories);
     } else {
-        QDir legacyDirectory;
         {
             // The registries' own warnings would repeat what the check reports per file.
             WarningCollector silence;
             Catalogue::load();
-            directories = Catalogue::productDirectories();
-            legacyDirectory = Catalogue::legacyDirectory();
         }
-        const auto current = checker.checkRegistry(directories);
-        const auto legacy = checker.checkRegistry({ legacyDirectory });
+        const auto current = checker.checkRegistry(Catalogue::productDirectories());
+        const auto legacy = checker.checkRegistry({ Catalogue::legacyDirectory() }, true);
         checker.checkReplacements(legacy, current);
-        directories.append(legacyDirectory);
     }
 
-    // Grouped by file, each file's problems in the order they were found.
-    QList<Problem> problems = checker.problems();
-    std::stable_sort(
-        problems.begin(), problems.end(), [](const Problem &a, const Problem &b) { return a.file < b.file; });
-    if (invocation.json) {
-        QJsonArray array;
-        for (const Problem &problem : problems)
-            array.append(problem.toJson());
-        printJson(QJsonDocument(array));
-    } else {
-        for (const Problem &problem : problems)
-            out() << problem.toText() << '\n';
-        out() << QStringLiteral("%1 files checked in %2 directories: %3\n")
-                     .arg(checker.fileCount())
-                     .arg(directories.size())
-                     .arg(problems.isEmpty() ? QStringLiteral("no problems")
-                                             : QStringLiteral("%1 problems").arg(problems.size()));
-    }
-    return problems.isEmpty() ? ExitSuccess : ExitFailure;
+    const bool terminal = isatty(STDOUT_FILENO);
+    const FindingStyle style { terminal, terminal && !qEnvironmentVariableIsSet("NO_COLOR"), invocation.quiet };
+    const bool failed
+        = checker.count(ZRXMLFinding::Error) > 0 || (invocation.werror && checker.count(ZRXMLFinding::Warning) > 0);
+    return { checker.report(style), failed ? ExitFailure : ExitSuccess };
 }
 
-int showCategories(const Invocation &invocation)
+Outcome showCategories(const Invocation &invocation)
 {
     Catalogue::load();
     QList<ZRThematicCategory> categories;
@@ -213,13 +197,17 @@ int showCategories(const Invocation &invocation)
         categories.append(ZRThematicCategory(name));
     if (categories.isEmpty())
         categories = Descriptions::knownCategories();
+    return { Report(Descriptions::categories(categories)) };
+}
 
-    const Table table = Descriptions::categories(categories);
-    if (invocation.json)
-        printJson(QJsonDocument(table.toJson()));
-    else
-        table.print(out());
-    return ExitSuccess;
+Outcome printSchema(const Invocation &invocation)
+{
+    if (!invocation.arguments.isEmpty())
+        return failure(ExitUsage, QStringLiteral("schema takes no arguments"));
+    const QString schema = productDescriptionSchema();
+    Record record;
+    record.add(QStringLiteral("schema"), schema);
+    return { Report(record, [schema](QTextStream &out) { out << schema; }) };
 }
 } // namespace
 
@@ -243,9 +231,13 @@ int main(int argc, char *argv[])
     const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("Writes JSON instead of text."));
     const QCommandLineOption languageOption(QStringLiteral("lang"),
         QStringLiteral("The language of category names and other texts, such as en or de."), QStringLiteral("code"));
-    parser.addOptions({ productsOption, resourcesOption, jsonOption, languageOption });
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("list, show, pages, check or categories."),
-        QStringLiteral("<command>"));
+    const QCommandLineOption quietOption({ QStringLiteral("q"), QStringLiteral("quiet") },
+        QStringLiteral("check: prints the findings alone, without the summary line."));
+    const QCommandLineOption werrorOption(
+        QStringLiteral("werror"), QStringLiteral("check: a warning fails the check like an error."));
+    parser.addOptions({ productsOption, resourcesOption, jsonOption, languageOption, quietOption, werrorOption });
+    parser.addPositionalArgument(QStringLiteral("command"),
+        QStringLiteral("list, show, pages, check, categories or schema."), QStringLiteral("<command>"));
     parser.addPositionalArgument(
         QStringLiteral("arguments"), QStringLiteral("The command's arguments."), QStringLiteral("[arguments...]"));
 
@@ -261,15 +253,16 @@ int main(int argc, char *argv[])
         return fail(ExitUsage, QStringLiteral("no command given"));
     const QString command = arguments.takeFirst();
 
-    using Command = int (*)(const Invocation &);
+    using Command = Outcome (*)(const Invocation &);
     const QHash<QString, Command> commands { { QStringLiteral("list"), listProducts },
         { QStringLiteral("show"), showProduct }, { QStringLiteral("pages"), showPages },
-        { QStringLiteral("check"), checkCatalogue }, { QStringLiteral("categories"), showCategories } };
+        { QStringLiteral("check"), checkCatalogue }, { QStringLiteral("categories"), showCategories },
+        { QStringLiteral("schema"), printSchema } };
     const Command run = commands.value(command);
     if (!run)
         return fail(ExitUsage, QStringLiteral("unknown command \"%1\"").arg(command));
-    if (command == QLatin1String("list") && !arguments.isEmpty())
-        return fail(ExitUsage, QStringLiteral("list takes no arguments"));
+    if (run != checkCatalogue && (parser.isSet(quietOption) || parser.isSet(werrorOption)))
+        return fail(ExitUsage, QStringLiteral("-q and --werror are options of check"));
 
     const CatalogueOptions options { parser.values(productsOption), parser.value(resourcesOption),
         parser.value(languageOption) };
@@ -277,7 +270,13 @@ int main(int argc, char *argv[])
     if (!Catalogue::configure(options, &error))
         return fail(ExitUsage, error);
 
-    const int status = run({ arguments, parser.isSet(jsonOption) });
+    const Outcome outcome = run({ arguments, parser.isSet(quietOption), parser.isSet(werrorOption) });
+    if (!outcome.error.isEmpty())
+        return fail(outcome.status, outcome.error);
+    if (parser.isSet(jsonOption))
+        out() << outcome.report.toJson().toJson(QJsonDocument::Indented);
+    else
+        outcome.report.print(out());
     out().flush();
-    return status;
+    return outcome.status;
 }

@@ -16,9 +16,14 @@ bool isRecordList(const QVariant &value)
     return value.metaType() == QMetaType::fromType<QList<Record>>();
 }
 
+bool isTable(const QVariant &value)
+{
+    return value.metaType() == QMetaType::fromType<Table>();
+}
+
 bool isNested(const QVariant &value)
 {
-    return isRecord(value) || (isRecordList(value) && !value.value<QList<Record>>().isEmpty());
+    return isRecord(value) || isTable(value) || (isRecordList(value) && !value.value<QList<Record>>().isEmpty());
 }
 
 QString blanks(int count)
@@ -43,6 +48,11 @@ Record &Record::add(const QString &key, const QList<Record> &records)
     return add(key, QVariant::fromValue(records));
 }
 
+Record &Record::add(const QString &key, const Table &table)
+{
+    return add(key, QVariant::fromValue(table));
+}
+
 QJsonObject Record::toJson() const
 {
     QJsonObject object;
@@ -59,12 +69,17 @@ void Record::print(QTextStream &out, int indent) const
 
     for (const auto &[key, value] : m_entries) {
         const QString label = labelOf(key) + QLatin1Char(':');
+        if (isTable(value) && key != m_entries.constFirst().first)
+            out << '\n';
         out << blanks(indent);
         if (!isNested(value)) {
             out << label.leftJustified(int(width) + 2) << displayText(value) << '\n';
         } else if (isRecord(value)) {
             out << label << '\n';
             value.value<Record>().print(out, indent + 2);
+        } else if (isTable(value)) {
+            out << label << '\n';
+            value.value<Table>().print(out, indent + 2);
         } else {
             out << label << '\n';
             const QList<Record> records = value.value<QList<Record>>();
@@ -105,7 +120,7 @@ QJsonArray Table::toJson() const
     return array;
 }
 
-void Table::print(QTextStream &out) const
+void Table::print(QTextStream &out, int indent) const
 {
     QList<QStringList> lines;
     QStringList headings;
@@ -130,7 +145,7 @@ void Table::print(QTextStream &out) const
             const bool last = column == line.size() - 1;
             text += last ? line.at(column) : line.at(column).leftJustified(int(widths.at(column)) + 2);
         }
-        out << text << '\n';
+        out << blanks(indent) << text << '\n';
     }
 }
 
@@ -179,6 +194,8 @@ QJsonValue toJsonValue(const QVariant &value)
 {
     if (isRecord(value))
         return value.value<Record>().toJson();
+    if (isTable(value))
+        return value.value<Table>().toJson();
     if (isRecordList(value)) {
         QJsonArray array;
         const QList<Record> records = value.value<QList<Record>>();
@@ -200,4 +217,29 @@ QJsonValue toJsonValue(const QVariant &value)
     default:
         return QJsonValue::fromVariant(value);
     }
+}
+
+Report::Report(const Record &record, const TextForm &text)
+    : m_model(QVariant::fromValue(record))
+    , m_text(text)
+{ }
+
+Report::Report(const Table &table)
+    : m_model(QVariant::fromValue(table))
+{ }
+
+QJsonDocument Report::toJson() const
+{
+    const QJsonValue json = toJsonValue(m_model);
+    return json.isArray() ? QJsonDocument(json.toArray()) : QJsonDocument(json.toObject());
+}
+
+void Report::print(QTextStream &out) const
+{
+    if (m_text)
+        m_text(out);
+    else if (isTable(m_model))
+        m_model.value<Table>().print(out);
+    else
+        m_model.value<Record>().print(out);
 }
