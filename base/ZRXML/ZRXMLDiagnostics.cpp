@@ -245,6 +245,14 @@ QList<ZRXMLFinding> ZRXMLDiagnostics::findings() const
     return d->findings;
 }
 
+QList<QDomDocument> ZRXMLDiagnostics::documents() const
+{
+    QList<QDomDocument> result;
+    for (const Private::Source &source : d->sources)
+        result.append(source.document);
+    return result;
+}
+
 QList<ZRXMLFinding> ZRXMLDiagnostics::takeFindings()
 {
     d->sources.clear();

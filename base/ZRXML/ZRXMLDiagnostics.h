@@ -105,6 +105,8 @@ public:
 
     /** Everything reported since the collector was made, in order. */
     QList<ZRXMLFinding> findings() const;
+    /** The documents loaded while the collector was active and not yet forgotten, in the order they were loaded. */
+    QList<QDomDocument> documents() const;
     /** The findings, then forgets them and the documents it knows. */
     QList<ZRXMLFinding> takeFindings();
 

@@ -6,7 +6,6 @@
 #include "ZRDirectoryConfig.h"
 #include "ZRProductTypeDescription.h"
 #include "ZRProductTypeDescriptionReader.h"
-#include "ZRXMLLoader.h"
 
 #include <QDomDocument>
 #include <QFile>
@@ -188,8 +187,8 @@ QString CatalogueChecker::checkFile(const QFileInfo &file, bool legacy)
     Product product;
     QDomElement element;
     if (description) {
-        // Read once more to have the elements themselves, which know where they are.
-        const QDomElement root = ZRXMLLoader::loadDocument(file).documentElement();
+        // The document the reader read, whose elements know where they are.
+        const QDomElement root = diagnostics.documents().value(0).documentElement();
         element = root.firstChildElement(productElementName);
         if (element.isNull()) {
             ZRXMLDiagnostics::report(ZRXMLFinding::Error, QStringLiteral("no-product"),
