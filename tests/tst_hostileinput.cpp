@@ -230,12 +230,12 @@ void tst_HostileInput::hostileValuesBesideAGoodProduct_data()
         << tooLong << 0;
     const QByteArray largest = "2147483647";
     QTest::newRow("spiral and hole with every number at the largest int") << product(
-        "<surroundings><surrounding type='CALENDAR' x='" + largest + "' y='" + largest + "' width='" + largest
-        + "' height='" + largest + "' tileWidth='" + largest + "' tileHeight='" + largest + "' spotColorMask='"
-        + QByteArray("0 0 2147483647 2147483647;").repeated(40000) + "'><spirals count='" + largest + "' hookWidth='"
-        + largest + "' hookHeight='" + largest + "' loopHeight='" + largest + "' loopWidth='" + largest
-        + "' loopDistance='" + largest + "'/><hole diameter='" + largest + "' distanceY='" + largest
-        + "'/></surrounding></surroundings>") << QByteArray() << 0;
+        "<surroundings><surrounding type='CALENDAR' spinefoldwidth='" + largest + "' x='" + largest + "' y='" + largest
+        + "' width='" + largest + "' height='" + largest + "' tileWidth='" + largest + "' tileHeight='" + largest
+        + "' spotColorMask='" + QByteArray("0 0 2147483647 2147483647;").repeated(40000) + "'><spirals count='"
+        + largest + "' hookWidth='" + largest + "' hookHeight='" + largest + "' loopHeight='" + largest
+        + "' loopWidth='" + largest + "' loopDistance='" + largest + "'/><hole diameter='" + largest + "' distanceY='"
+        + largest + "'/></surrounding></surroundings>") << QByteArray() << 0;
     QTest::newRow("spiral strip past the pixel budget")
         << product("<surroundings><surrounding type='CALENDAR'><spirals count='200000' hookWidth='8192' "
                    "hookHeight='1025'/></surrounding></surroundings>")
@@ -267,6 +267,12 @@ void tst_HostileInput::hostileValuesBesideAGoodProduct()
     QVERIFY(hostile);
     QCOMPARE(keptPages(*hostile), pages);
     QVERIFY(spiralPicturesAreNull(*hostile));
+    // Sizes at the end of the range of int are held there, not overflowed.
+    for (const ZRSurroundingDescription &surrounding : hostile->surroundings()) {
+        QVERIFY(surrounding.spineFoldWithSafetyMargins() >= surrounding.spineFoldWidth());
+        const QRect area = surrounding.editableArea();
+        QVERIFY(area.isNull() || area.right() >= area.left());
+    }
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QStringLiteral("took %1 ms").arg(timer.elapsed())));
 }
 

@@ -2,6 +2,8 @@
 
 #include "ZRXMLDiagnostics.h"
 
+#include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -225,7 +227,14 @@ QRect ZRXMLParser::readRect(const QDomNamedNodeMap &attributes)
         return QRect();
     for (const QDomAttr &attr : { x, y, w, h })
         checkForm(attr, Form::Integer, QStringLiteral("0"));
-    return QRect(toInt(x, 0), toInt(y, 0), toInt(w, 0), toInt(h, 0));
+    // The far edges are counted in 64 bits and held to the range of int, so that huge sizes cannot overflow.
+    const auto farEdge = [](int origin, int size) {
+        return int(std::clamp<qint64>(
+            qint64(origin) + size - 1, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    };
+    const int left = toInt(x, 0);
+    const int top = toInt(y, 0);
+    return QRect(QPoint(left, top), QPoint(farEdge(left, toInt(w, 0)), farEdge(top, toInt(h, 0))));
 }
 
 QRectF ZRXMLParser::readRectF(const QDomNamedNodeMap &attributes)

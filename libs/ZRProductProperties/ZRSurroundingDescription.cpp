@@ -11,6 +11,9 @@
 #include <QHashFunctions>
 #include <QStringList>
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 // A frame is printed on every page, whatever the description says.
 constexpr auto framePageTypes = ZRPageTypeEnum(0xF03F9);
@@ -102,7 +105,9 @@ bool ZRSurroundingDescription::hasSpineFold() const
 
 int ZRSurroundingDescription::spineFoldWithSafetyMargins() const
 {
-    return int(m_spineFoldWidth * 1.2);
+    // Held to the range of int, so that a huge fold width in a file gives the largest int, not an overflow.
+    return int(std::clamp(
+        m_spineFoldWidth * 1.2, double(std::numeric_limits<int>::min()), double(std::numeric_limits<int>::max())));
 }
 
 size_t ZRSurroundingDescription::hashValue() const
