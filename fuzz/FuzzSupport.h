@@ -178,4 +178,23 @@ private:
 
 } // namespace FuzzSupport
 
+// Each fuzz program includes this header once and defines these two: what it sets up before the
+// first input, after the common setup, and what it does with one input.
+void fuzzSetUp();
+void fuzzOneInput(const uint8_t *data, size_t size);
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    FuzzSupport::initialize(argc, argv);
+    fuzzSetUp();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const FuzzSupport::RunningInput running(data, size);
+    fuzzOneInput(data, size);
+    return 0;
+}
+
 #endif

@@ -14,20 +14,17 @@ namespace {
 QTemporaryDir *resources = nullptr;
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+void fuzzSetUp()
 {
-    FuzzSupport::initialize(argc, argv);
     // Lives until the process ends, like the directory configuration that points at it.
     resources = new QTemporaryDir;
     if (!resources->isValid())
         std::abort();
     ZRSingleton<ZRDirectoryConfig>::instance()->setResourcesDir(QDir(resources->path()));
-    return 0;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOneInput(const uint8_t *data, size_t size)
 {
-    const FuzzSupport::RunningInput running(data, size);
     QFile file(resources->filePath(QStringLiteral("colors.xml")));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         std::abort();
@@ -40,5 +37,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         it.value().isValid();
         it.value().hsvHue();
     }
-    return 0;
 }

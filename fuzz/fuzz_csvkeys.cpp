@@ -76,17 +76,11 @@ constexpr RoundTrip tables[] = {
 };
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    FuzzSupport::initialize(argc, argv);
-    return 0;
-}
+void fuzzSetUp() { }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOneInput(const uint8_t *data, size_t size)
 {
-    const FuzzSupport::RunningInput running(data, size);
     FuzzSupport::Reader input(data, size);
     const RoundTrip roundTrip = tables[input.byte() % std::size(tables)];
     roundTrip(input.rest());
-    return 0;
 }

@@ -99,15 +99,10 @@ void checkPageTypes(const QString &text, qsizetype parts)
 }
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    FuzzSupport::initialize(argc, argv);
-    return 0;
-}
+void fuzzSetUp() { }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOneInput(const uint8_t *data, size_t size)
 {
-    const FuzzSupport::RunningInput running(data, size);
     const QStringList lines = FuzzSupport::text(data, size).split(QLatin1Char('\n'));
     const QString &list = lines.first();
     const qsizetype parts = list.count(QLatin1Char(',')) + 1;
@@ -137,5 +132,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     checkIntegerLists(description, ZRUserPageTiltConfig(pageTilt).pages(), parts);
     checkRedirects(description, product);
     checkPageTypes(list, parts);
-    return 0;
 }

@@ -113,18 +113,13 @@ void queryClassificationAndPreview(const ZRProductTypeDescription &description)
 }
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    FuzzSupport::initialize(argc, argv);
-    return 0;
-}
+void fuzzSetUp() { }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOneInput(const uint8_t *data, size_t size)
 {
-    const FuzzSupport::RunningInput running(data, size);
     const QDomElement root = ZRXMLLoader::loadDocumentElement(FuzzSupport::bytes(data, size));
     if (root.isNull())
-        return 0;
+        return;
     const ZRProductTypeDescription description(root.firstChildElement(QStringLiteral("product")));
 
     description.isValid();
@@ -142,5 +137,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     FuzzSupport::check(copy.pageTypes(24) == description.pageTypes(24), "a copied description lists the same pages");
     FuzzSupport::check(copy.productionNumberingList(3) == description.productionNumberingList(3),
         "a copied description numbers pages alike");
-    return 0;
 }

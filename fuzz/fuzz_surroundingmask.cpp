@@ -4,15 +4,10 @@
 
 #include "ZRSurroundingDescription.h"
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    FuzzSupport::initialize(argc, argv);
-    return 0;
-}
+void fuzzSetUp() { }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOneInput(const uint8_t *data, size_t size)
 {
-    const FuzzSupport::RunningInput running(data, size);
     const QString text = FuzzSupport::text(data, size);
     const QList<QRect> mask = ZRSurroundingDescription::parseMask(text);
     FuzzSupport::check(mask.size() <= text.count(QLatin1Char(';')) + 1, "at most one rectangle per part");
@@ -24,5 +19,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             QStringLiteral("%1 %2 %3 %4").arg(rect.left()).arg(rect.top()).arg(rect.right()).arg(rect.bottom()));
     FuzzSupport::check(ZRSurroundingDescription::parseMask(parts.join(QLatin1Char(';'))) == mask,
         "written rectangles read back the same");
-    return 0;
 }

@@ -16,21 +16,18 @@ namespace {
 constexpr int lookedUpSources = 32;
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+void fuzzSetUp()
 {
-    FuzzSupport::initialize(argc, argv);
     // No translation files: a document that cannot be read makes the registry scan an empty directory.
     static QTemporaryDir emptyDirectory;
     if (!emptyDirectory.isValid())
         std::abort();
     ZRSingleton<ZRDirectoryConfig>::instance()->setGlimmerThematicTranslationsDirectories({ emptyDirectory.path() });
     ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setLanguageChanged(true);
-    return 0;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOneInput(const uint8_t *data, size_t size)
 {
-    const FuzzSupport::RunningInput running(data, size);
     const QByteArray document(reinterpret_cast<const char *>(data), qsizetype(size));
     ZRSingleton<ZRLocaleAndTranslationManager>::instance()->setThematicTranslations(document);
     // A registry of its own for every input: the constructor reads the document (init(), initFromZIP()).
@@ -38,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     QDomDocument parsed;
     if (!parsed.setContent(document))
-        return 0;
+        return;
     const QDomElement root = parsed.documentElement();
     const QLocale locale(root.attribute(QStringLiteral("language")));
     const QLocale languageOnly(locale.language());
@@ -53,5 +50,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             }
         }
     }
-    return 0;
 }

@@ -7,6 +7,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <climits>
+
 namespace {
 ZRProductTypeDescription describe(const QString &productXml)
 {
@@ -269,6 +271,8 @@ void tst_ProductTypeDescription::productionNumbering_data()
     QTest::newRow("empty starts at 1") << QString() << 2 << QList<int> { 1, 2 };
     QTest::newRow("zero count") << QString() << 0 << QList<int>();
     QTest::newRow("counts on from the last") << "4,2" << 4 << QList<int> { 4, 2, 3, 4 };
+    // Counting on stops at the largest int instead of overflowing.
+    QTest::newRow("counts on to the largest int") << "2147483646" << 3 << QList<int> { INT_MAX - 1, INT_MAX, INT_MAX };
 }
 
 void tst_ProductTypeDescription::productionNumbering()

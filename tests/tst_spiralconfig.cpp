@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <climits>
+
 using ZRTest::parseElement;
 
 class tst_ZRSpiralConfig : public QObject
@@ -69,6 +71,10 @@ void tst_ZRSpiralConfig::readsGeometry_data()
     QTest::newRow("hook") << "<spirals count='2' hookWidth='30' hookHeight='12'/>" << true << true << QSize(138, 150) << QSize(54, 150);
     QTest::newRow("hook without height") << "<spirals count='2' hookWidth='30'/>" << true << false << QSize(138, 150) << QSize(54, 150);
     QTest::newRow("negative count") << "<spirals count='-1'/>" << false << false << QSize(-114, 150) << QSize(54, 150);
+    // Lengths beyond int are held to its range.
+    QTest::newRow("largest count") << "<spirals count='2147483647'/>" << true << false << QSize(INT_MAX, 150) << QSize(54, 150);
+    QTest::newRow("smallest count") << "<spirals count='-2147483648'/>" << false << false << QSize(INT_MIN, 150) << QSize(54, 150);
+    QTest::newRow("huge distance") << "<spirals count='2' loopDistance='2147483647'/>" << true << false << QSize(INT_MAX, 150) << QSize(54, 150);
     // clang-format on
 }
 

@@ -84,8 +84,6 @@ private slots:
     void deepDocumentsOnSmallStack();
     void findings_data();
     void findings();
-    void samplesHaveNoFindings_data();
-    void samplesHaveNoFindings();
 };
 
 void tst_XMLLoader::sameDomAsSetContent_data()
@@ -237,32 +235,5 @@ void tst_XMLLoader::findings()
 }
 
 // The sample catalogue is what maintainers copy from: reading it must forgive nothing.
-void tst_XMLLoader::samplesHaveNoFindings_data()
-{
-    QTest::addColumn<QString>("path");
-    const QDir examples(QStringLiteral(ZR_EXAMPLES_DIR));
-    QDirIterator samples(examples.path(), { QStringLiteral("*.xml") }, QDir::Files, QDirIterator::Subdirectories);
-    while (samples.hasNext()) {
-        const QString path = samples.next();
-        if (path.contains(QLatin1String("/products/")))
-            QTest::newRow(qPrintable(examples.relativeFilePath(path))) << path;
-    }
-}
-
-void tst_XMLLoader::samplesHaveNoFindings()
-{
-    QFETCH(QString, path);
-    ZRXMLDiagnostics diagnostics;
-    const QFileInfo file(path);
-    const std::unique_ptr<ZRProductTypeDescription> description(
-        ZRProductTypeDescriptionReader(file.dir()).readFile(file));
-    QVERIFY(description);
-    QStringList findings;
-    for (const ZRXMLFinding &finding : diagnostics.findings())
-        findings.append(
-            QStringLiteral("%1:%2: %3 %4").arg(finding.line).arg(finding.column).arg(finding.rule, finding.message));
-    QCOMPARE(findings, QStringList());
-}
-
 QTEST_GUILESS_MAIN(tst_XMLLoader)
 #include "tst_xmlloader.moc"
