@@ -34,7 +34,6 @@ private slots:
     void imageEffectsDecideBorderAndShadow();
     void spine_data();
     void spine();
-    void integerLists();
     void spotColors_data();
     void spotColors();
     void safetyMargins_data();
@@ -140,15 +139,6 @@ void tst_ProductTypeDescription::spine()
     const ZRProductTypeDescription d = withPages(pages);
     QTEST(d.hasSpine(), "spine");
     QTEST(d.hasTextOnSpine(), "text");
-}
-
-void tst_ProductTypeDescription::integerLists()
-{
-    const ZRProductTypeDescription d
-        = describe(QStringLiteral("<product><pageswithcontent> 1, 2, , x, 4 </pageswithcontent>"
-                                  "<productionnumbering>\n 3,\t1 ,2</productionnumbering></product>"));
-    QCOMPARE(d.pagesWithContent(), (QList<int> { 1, 2, 4 }));
-    QCOMPARE(d.productionNumbering(), (QList<int> { 3, 1, 2 }));
 }
 
 void tst_ProductTypeDescription::spotColors_data()
