@@ -1,6 +1,7 @@
 #include "ZRXMLDiagnostics.h"
 
 #include <QDomNamedNodeMap>
+#include <QStringTokenizer>
 
 #include <algorithm>
 #include <vector>
@@ -148,21 +149,19 @@ void ZRXMLDiagnostics::checkKeys(
 {
     if (!activeCollector || text.isEmpty())
         return;
-    // A key that is the name of its own element (a jig type) needs no place of its own in the message.
-    QString where;
-    if (node.isAttr())
-        where = QStringLiteral(" in '%1'").arg(node.nodeName());
-    else if (node.isElement() && node.nodeName() != text)
-        where = QStringLiteral(" in <%1>").arg(node.nodeName());
-    const QStringList parts = text.split(QLatin1Char(','));
-    for (const QString &part : parts) {
-        const QString key = part.trimmed();
-        const QString lowerKey = key.toLower();
-        if (key.isEmpty() ? !emptyPartsCount
-                          : std::any_of(keys.cbegin(), keys.cend(),
-                              [&lowerKey](const QString &known) { return known.toLower() == lowerKey; }))
+    for (const QStringView part : qTokenize(text, u',')) {
+        const QStringView key = part.trimmed();
+        if (key.isEmpty() ? !emptyPartsCount : std::any_of(keys.cbegin(), keys.cend(), [key](const QString &known) {
+                return key.compare(known, Qt::CaseInsensitive) == 0;
+            }))
             continue;
-        const QString guess = closest(key, keys);
+        // A key that is the name of its own element (a jig type) needs no place of its own in the message.
+        QString where;
+        if (node.isAttr())
+            where = QStringLiteral(" in '%1'").arg(node.nodeName());
+        else if (node.isElement() && node.nodeName() != text)
+            where = QStringLiteral(" in <%1>").arg(node.nodeName());
+        const QString guess = closest(key.toString(), keys);
         QString suggestion;
         if (!guess.isEmpty())
             suggestion = QStringLiteral("did you mean '%1'?").arg(guess);

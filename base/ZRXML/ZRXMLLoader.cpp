@@ -104,8 +104,6 @@ template<typename Char> bool startsWith(const Char *from, const Char *end, const
         && std::equal(prefix, prefix + length, from, [](char a, Char b) { return Char(a) == b; });
 }
 
-QString sizeLimitText();
-
 /** Why a document is refused. */
 enum class Refusal
 {
@@ -152,62 +150,130 @@ QString refusalText(Refusal refusal)
     return QString();
 }
 
-/**
- * Refuses a start tag with more attributes than allowed, or a document with more nodes. The stream
- * reader compares every attribute of an element with every other one before it reports the element,
- * so a tag with many thousands of them takes minutes; and a document of millions of tiny elements
- * takes seconds and a gigabyte to build. Both are counted here without parsing: one node per start
- * tag, comment, CDATA section and processing instruction, one attribute per '=' outside quotes.
- * Markup that is not well-formed is left to the reader to refuse.
- */
-template<typename Char> Refusal markupWithinLimits(const Char *p, const Char *end)
+/** What the scan of the markup found: a refusal and where it was made, or a value that may be too long. */
+struct Scan
 {
+    Refusal refusal = Refusal::None;
+    qsizetype offset = 0;
+    bool longValue = false;
+};
+
+template<typename Char> bool isBlank(const Char *from, const Char *to)
+{
+    return std::all_of(
+        from, to, [](Char c) { return c == Char(' ') || c == Char('\t') || c == Char('\r') || c == Char('\n'); });
+}
+
+/**
+ * Checks the limits on the markup without parsing it, before the parser builds anything. The stream
+ * reader compares every attribute of an element with every other one before it reports the element,
+ * so a tag with many thousands of them takes minutes; a document of millions of tiny elements takes
+ * seconds and a gigabyte to build; destroying a DOM recurses once per level. Counted here: one node
+ * per start tag, comment, CDATA section and processing instruction, one attribute per '=' outside
+ * quotes, one level per start tag that is not closed at once, and a document type with an internal
+ * subset that is not blank. A value's length in the markup is at least its length once decoded (no
+ * entity that could expand is accepted), so only a value longer in the markup needs to be decoded to
+ * be judged. In a well-formed document this sees the structure the parser sees; markup that is not
+ * well-formed is left to the parser to refuse.
+ */
+template<typename Char> Scan scanMarkup(const Char *begin, const Char *end)
+{
+    Scan scan;
+    const auto refuse = [&scan, begin](Refusal refusal, const Char *at) {
+        scan.refusal = refusal;
+        scan.offset = at - begin;
+        return scan;
+    };
+    const auto measure = [&scan](const Char *from, const Char *to) {
+        if (to - from > ZRXMLLimits::maxValueLength)
+            scan.longValue = true;
+    };
     qint64 nodes = 0;
+    int depth = 0;
+    const Char *p = begin;
+    const Char *text = begin;
     while ((p = findChar(p, end, '<')) != end) {
+        measure(text, p);
         if (++p == end)
             break;
         if (*p == '/') {
-            p = findChar(p, end, '>');
+            --depth;
+            text = p = findChar(p, end, '>');
             continue;
         }
         if (++nodes > ZRXMLLimits::maxNodes)
-            return Refusal::Nodes;
+            return refuse(Refusal::Nodes, p);
+        const Char *body = p;
         if (*p == '!') {
             if (startsWith(p, end, "!--", 3)) {
                 p = skipPast(p + 3, end, "-->", 3);
+                measure(body, p);
             } else if (startsWith(p, end, "![CDATA[", 8)) {
                 p = skipPast(p + 8, end, "]]>", 3);
+                measure(body, p);
             } else {
-                // A document type declaration: its literals and its internal subset may hold '>'.
+                // A document type declaration: its literals may hold '>' and '[', its internal subset declarations.
                 while (p != end && *p != Char('>')) {
-                    if (*p == Char('"') || *p == Char('\'') || *p == Char('['))
-                        p = findChar(p + 1, end, *p == Char('[') ? ']' : char(*p));
+                    if (*p == Char('[')) {
+                        const Char *close = findChar(p + 1, end, ']');
+                        if (!isBlank(p + 1, close))
+                            return refuse(Refusal::Declarations, p);
+                        p = close;
+                    } else if (*p == Char('"') || *p == Char('\'')) {
+                        p = findChar(p + 1, end, char(*p));
+                    }
                     if (p != end)
                         ++p;
                 }
             }
         } else if (*p == '?') {
             p = skipPast(p + 1, end, "?>", 2);
+            measure(body, p);
         } else {
             int attributes = 0;
             for (; p != end && *p != Char('>'); ++p) {
                 if (*p == Char('"') || *p == Char('\'')) {
+                    const Char *value = p;
                     p = findChar(p + 1, end, char(*p));
+                    measure(value, p);
                     if (p == end)
                         break;
                 } else if (*p == Char('=')) {
                     if (++attributes > ZRXMLLimits::maxAttributes)
-                        return Refusal::Attributes;
+                        return refuse(Refusal::Attributes, p);
                     if (++nodes > ZRXMLLimits::maxNodes)
-                        return Refusal::Nodes;
+                        return refuse(Refusal::Nodes, p);
                 }
             }
+            if (depth >= ZRXMLLimits::maxDepth)
+                return refuse(Refusal::Depth, p == end ? p : p + 1);
+            if (p != end && p[-1] != Char('/'))
+                ++depth;
         }
+        text = p;
     }
-    return Refusal::None;
+    measure(text, end);
+    return scan;
 }
 
-Refusal markupWithinLimits(const QByteArray &content)
+/** The encoding that the XML declaration of @p content names; UTF-8 when it names none that is known. */
+QStringConverter::Encoding declaredEncoding(const QByteArray &content)
+{
+    static const QRegularExpression declaration(QStringLiteral("^<\\?xml[^>]*encoding\\s*=\\s*[\"']([A-Za-z0-9._-]+)"));
+    const QRegularExpressionMatch match = declaration.match(QString::fromLatin1(content.left(200)));
+    if (!match.hasMatch())
+        return QStringConverter::Utf8;
+    return QStringConverter::encodingForName(match.captured(1).toLatin1().constData()).value_or(QStringConverter::Utf8);
+}
+
+/** The decoder for @p content: by its byte order mark or first character, else as its declaration says. */
+QStringDecoder decoderFor(const QByteArray &content)
+{
+    const std::optional<QStringConverter::Encoding> encoding = QStringConverter::encodingForData(content, u'<');
+    return QStringDecoder(encoding.value_or(declaredEncoding(content)));
+}
+
+Scan scanMarkup(const QByteArray &content)
 {
     // Markup characters are single bytes in UTF-8 and in the 8-bit encodings; only documents in
     // UTF-16 or UTF-32 need decoding first.
@@ -221,164 +287,94 @@ Refusal markupWithinLimits(const QByteArray &content)
     case QStringConverter::Utf32BE:
         break;
     default:
-        return markupWithinLimits(content.cbegin(), content.cend());
+        return scanMarkup(content.cbegin(), content.cend());
     }
     QStringDecoder decoder(*encoding);
     const QString text = decoder.decode(content);
-    return markupWithinLimits(text.utf16(), text.utf16() + text.size());
-}
-
-/** True for a document type without an internal subset, or with a blank one. */
-bool isBareDocumentType(const QXmlStreamReader &reader)
-{
-    if (!reader.entityDeclarations().isEmpty() || !reader.notationDeclarations().isEmpty())
-        return false;
-    const QStringView declaration = reader.text();
-    const qsizetype open = declaration.indexOf(u'[');
-    if (open < 0)
-        return true;
-    const qsizetype close = declaration.lastIndexOf(u']');
-    return close > open && declaration.sliced(open + 1, close - open - 1).trimmed().isEmpty();
-}
-
-/** The data of the "xml" processing instruction that stands for the XML declaration in the DOM. */
-QString xmlDeclaration(const QXmlStreamReader &reader)
-{
-    QString data = QLatin1String("version='");
-    data += reader.documentVersion();
-    data += QLatin1Char('\'');
-    if (!reader.documentEncoding().isEmpty()) {
-        data += QLatin1String(" encoding='");
-        data += reader.documentEncoding();
-        data += QLatin1Char('\'');
+    Scan scan = scanMarkup(text.utf16(), text.utf16() + text.size());
+    if (scan.refusal != Refusal::None) {
+        // The offset counts characters; the place is found in bytes below.
+        QStringEncoder encoder(*encoding);
+        scan.offset = QByteArray(encoder.encode(QStringView(text).first(scan.offset))).size();
     }
-    if (reader.isStandaloneDocument())
-        data += QLatin1String(" standalone='yes'");
-    return data;
+    return scan;
+}
+
+/** Line and column (both from 1) of the character at byte @p offset of @p content. */
+std::pair<int, int> placeOf(const QByteArray &content, qsizetype offset)
+{
+    QStringDecoder decoder = decoderFor(content);
+    const QString before = decoder.decode(QByteArrayView(content).first(std::min(offset, content.size())));
+    const qsizetype lineStart = before.lastIndexOf(u'\n') + 1;
+    return { int(before.count(u'\n')) + 1, int(before.size() - lineStart) + 1 };
 }
 
 /**
- * Builds the DOM in the one pass of the stream reader that checks the limits, with the nodes that
- * QDomDocument::setContent() makes without namespace processing: blank text is dropped,
- * CDATA sections, comments, processing instructions and unresolved entity references are kept, the
- * XML declaration becomes an "xml" processing instruction. A refused document is dropped while it
- * is still shallow, as destroying a DOM recurses once per level.
+ * Decides the length limit on values exactly, for a document whose markup has a value longer than
+ * the limit: its decoded text may still be within it. Text of blanks alone is layout and not held to it.
  */
-QDomDocument buildDocument(const QByteArray &content, Outcome &outcome)
+Outcome checkValueLengths(const QByteArray &content)
 {
     QXmlStreamReader reader(content);
-    const auto refuse = [&reader, &outcome](Refusal refusal) {
-        outcome.refusal = refusal;
-        outcome.message = refusalText(refusal);
-        outcome.line = int(reader.lineNumber());
-        outcome.column = int(reader.columnNumber()) + 1;
-        return QDomDocument();
-    };
     reader.setNamespaceProcessing(false);
-    QDomDocument document { QString() };
-    QDomNode current = document;
-    int depth = 0;
     while (!reader.atEnd()) {
+        qsizetype length = 0;
         switch (reader.readNext()) {
-        case QXmlStreamReader::StartDocument:
-            if (!reader.documentVersion().isEmpty())
-                document.appendChild(
-                    document.createProcessingInstruction(QStringLiteral("xml"), xmlDeclaration(reader)));
-            break;
-        case QXmlStreamReader::DTD: {
-            if (!isBareDocumentType(reader))
-                return refuse(Refusal::Declarations);
-            // The document type is fixed when a document is made; what came before it moves over.
-            QDomDocument typed(QDomImplementation().createDocumentType(
-                reader.dtdName().toString(), reader.dtdPublicId().toString(), reader.dtdSystemId().toString()));
-            for (QDomNode node = document.firstChild(); !node.isNull(); node = node.nextSibling())
-                typed.appendChild(typed.importNode(node, true));
-            document = typed;
-            current = document;
-            break;
-        }
-        case QXmlStreamReader::StartElement: {
-            if (++depth > ZRXMLLimits::maxDepth)
-                return refuse(Refusal::Depth);
-            QDomElement element = document.createElement(reader.qualifiedName().toString());
-            const QXmlStreamAttributes attributes = reader.attributes();
-            for (const QXmlStreamAttribute &attribute : attributes) {
-                if (attribute.value().size() > ZRXMLLimits::maxValueLength)
-                    return refuse(Refusal::ValueLength);
-                element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-            }
-            current.appendChild(element);
-            current = element;
-            break;
-        }
-        case QXmlStreamReader::EndElement:
-            --depth;
-            current = current.parentNode();
+        case QXmlStreamReader::StartElement:
+            for (const QXmlStreamAttribute &attribute : reader.attributes())
+                length = std::max(length, attribute.value().size());
             break;
         case QXmlStreamReader::Characters:
-            // Text of blanks alone is layout, also when written as character references.
-            if (reader.isWhitespace() || (!reader.isCDATA() && reader.text().trimmed().isEmpty()))
-                break;
-            if (reader.text().size() > ZRXMLLimits::maxValueLength)
-                return refuse(Refusal::ValueLength);
-            if (reader.isCDATA())
-                current.appendChild(document.createCDATASection(reader.text().toString()));
-            else
-                current.appendChild(document.createTextNode(reader.text().toString()));
+            if (!reader.isWhitespace() && (reader.isCDATA() || !reader.text().trimmed().isEmpty()))
+                length = reader.text().size();
             break;
         case QXmlStreamReader::Comment:
-            if (reader.text().size() > ZRXMLLimits::maxValueLength)
-                return refuse(Refusal::ValueLength);
-            current.appendChild(document.createComment(reader.text().toString()));
+            length = reader.text().size();
             break;
         case QXmlStreamReader::ProcessingInstruction:
-            if (reader.processingInstructionData().size() > ZRXMLLimits::maxValueLength)
-                return refuse(Refusal::ValueLength);
-            current.appendChild(document.createProcessingInstruction(
-                reader.processingInstructionTarget().toString(), reader.processingInstructionData().toString()));
-            break;
-        case QXmlStreamReader::EntityReference:
-            current.appendChild(document.createEntityReference(reader.name().toString()));
+            length = reader.processingInstructionData().size();
             break;
         default:
             break;
         }
+        if (length > ZRXMLLimits::maxValueLength) {
+            return { Refusal::ValueLength, refusalText(Refusal::ValueLength), int(reader.lineNumber()),
+                int(reader.columnNumber()) + 1 };
+        }
     }
-    if (reader.hasError()) {
-        refuse(Refusal::NotWellFormed);
-        outcome.message = reader.errorString();
-        return QDomDocument();
-    }
-    return document;
-}
-
-/** The encoding that the XML declaration of @p content names; UTF-8 when it names none that is known. */
-QStringConverter::Encoding declaredEncoding(const QByteArray &content)
-{
-    static const QRegularExpression declaration(QStringLiteral("^<\\?xml[^>]*encoding\\s*=\\s*[\"']([A-Za-z0-9._-]+)"));
-    const QRegularExpressionMatch match = declaration.match(QString::fromLatin1(content.left(200)));
-    if (!match.hasMatch())
-        return QStringConverter::Utf8;
-    return QStringConverter::encodingForName(match.captured(1).toLatin1().constData()).value_or(QStringConverter::Utf8);
+    return Outcome();
 }
 
 /**
- * The document of @p content, or a null one when it is refused; @p file names it in findings. With
- * a diagnostics collector active, a refusal is reported, and the document is the one
- * QDomDocument::setContent() makes of the same content, which knows where its elements are.
+ * The document of @p content, or a null one when it is refused; @p file names it in findings. Within
+ * the limits it is the document that QDomDocument::setContent() makes without namespace processing.
+ * With a diagnostics collector active, a refusal is reported, and the document's text is kept so
+ * that findings can name the place of an attribute as well as that of an element.
  */
 QDomDocument loadDocument(const QByteArray &content, const QString &file, const QString &readProblem)
 {
     Outcome outcome;
-    if (!readProblem.isEmpty())
+    Scan scan;
+    if (!readProblem.isEmpty()) {
         outcome = { Refusal::Size, readProblem };
-    else if (content.isEmpty())
+    } else if (content.isEmpty()) {
         outcome = { Refusal::NotWellFormed, QStringLiteral("the file is empty") };
-    else if (content.size() > ZRXMLLimits::maxDocumentSize)
+    } else if (content.size() > ZRXMLLimits::maxDocumentSize) {
         outcome = { Refusal::Size, refusalText(Refusal::Size) };
-    else if (const Refusal refusal = markupWithinLimits(content); refusal != Refusal::None)
-        outcome = { refusal, refusalText(refusal) };
-    QDomDocument document = outcome.message.isEmpty() ? buildDocument(content, outcome) : QDomDocument();
+    } else if (scan = scanMarkup(content); scan.refusal != Refusal::None) {
+        const auto [line, column] = placeOf(content, scan.offset);
+        outcome = { scan.refusal, refusalText(scan.refusal), line, column };
+    } else if (scan.longValue) {
+        outcome = checkValueLengths(content);
+    }
+
+    QDomDocument document;
+    if (outcome.refusal == Refusal::None
+        && !document.setContent(content, &outcome.message, &outcome.line, &outcome.column)) {
+        outcome.refusal = Refusal::NotWellFormed;
+        ++outcome.column; // counted from 0 by the parser
+        document = QDomDocument();
+    }
     if (!ZRXMLDiagnostics::isActive())
         return document;
     if (document.isNull()) {
@@ -395,13 +391,9 @@ QDomDocument loadDocument(const QByteArray &content, const QString &file, const 
         ZRXMLDiagnostics::report(finding);
         return document;
     }
-    QDomDocument positioned;
-    if (!positioned.setContent(content))
-        return document;
-    const std::optional<QStringConverter::Encoding> encoding = QStringConverter::encodingForData(content, u'<');
-    QStringDecoder decoder(encoding.value_or(declaredEncoding(content)));
-    ZRXMLDiagnostics::addSource(positioned, file, decoder.decode(content));
-    return positioned;
+    QStringDecoder decoder = decoderFor(content);
+    ZRXMLDiagnostics::addSource(document, file, decoder.decode(content));
+    return document;
 }
 
 } // namespace

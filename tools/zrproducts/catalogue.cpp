@@ -141,12 +141,14 @@ const ZRProductTypeDescription *Catalogue::find(const QString &name, bool *legac
     return nullptr;
 }
 
+// The directories that the registries read, named without creating the registries, which would read them.
 QList<QDir> Catalogue::productDirectories()
 {
-    return registry()->supervisedDirs();
+    const ZRDirectoryConfig *config = ZRSingleton<ZRDirectoryConfig>::instance();
+    return { config->productsDir(true), config->productsDir(false) };
 }
 
 QDir Catalogue::legacyDirectory()
 {
-    return legacyRegistry()->supervisedDirs().value(0);
+    return QDir(ZRSingleton<ZRDirectoryConfig>::instance()->resource(QStringLiteral("products/legacy"), false));
 }

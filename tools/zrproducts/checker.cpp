@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QTextStream>
+#include <QtConcurrent>
 
 #include <algorithm>
 #include <cstdio>
@@ -19,7 +20,8 @@
 #include <tuple>
 
 namespace {
-WarningCollector *currentCollector = nullptr;
+thread_local WarningCollector *currentCollector = nullptr;
+QtMessageHandler previousHandler = nullptr;
 
 const QString productElementName = QStringLiteral("product");
 
@@ -147,16 +149,17 @@ void printFinding(QTextStream &out, const ZRXMLFinding &finding, const FindingSt
 } // namespace
 
 WarningCollector::WarningCollector()
+    : m_outer(currentCollector)
 {
-    Q_ASSERT(!currentCollector);
+    // Installed once for good: collectors come and go on several threads at the same time.
+    static const QtMessageHandler previous = qInstallMessageHandler(handle);
+    previousHandler = previous;
     currentCollector = this;
-    m_previous = qInstallMessageHandler(handle);
 }
 
 WarningCollector::~WarningCollector()
 {
-    qInstallMessageHandler(m_previous);
-    currentCollector = nullptr;
+    currentCollector = m_outer;
 }
 
 void WarningCollector::handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
@@ -165,15 +168,23 @@ void WarningCollector::handle(QtMsgType type, const QMessageLogContext &context,
         currentCollector->m_warnings.append(message);
         return;
     }
-    if (currentCollector && currentCollector->m_previous)
-        currentCollector->m_previous(type, context, message);
+    if (previousHandler)
+        previousHandler(type, context, message);
     else
         std::fprintf(stderr, "%s\n", qUtf8Printable(message));
 }
 
-QString CatalogueChecker::checkFile(const QFileInfo &file, bool legacy)
+namespace {
+/** What checking one file found. */
+struct FileCheck
 {
-    ++m_fileCount;
+    QString path;
+    CatalogueChecker::Product product;
+    QList<ZRXMLFinding> findings;
+};
+
+FileCheck checkFile(const QFileInfo &file, bool legacy)
+{
     const QString path = file.filePath();
     ZRXMLDiagnostics diagnostics;
     WarningCollector warnings;
@@ -184,7 +195,7 @@ QString CatalogueChecker::checkFile(const QFileInfo &file, bool legacy)
         place.file = path;
         return place;
     };
-    Product product;
+    CatalogueChecker::Product product;
     QDomElement element;
     if (description) {
         // The document the reader read, whose elements know where they are.
@@ -217,7 +228,6 @@ QString CatalogueChecker::checkFile(const QFileInfo &file, bool legacy)
             *description, element, { config->resourcesDir(), config->glimmerThumbnailsDirectory(false), legacy });
         // The page list warns about page types that are none when it is expanded, not when it is read.
         description->pageTypes(Descriptions::typicalContentPages);
-        m_products.insert(path, product);
     }
 
     QList<ZRXMLFinding> findings = diagnostics.takeFindings();
@@ -231,8 +241,25 @@ QString CatalogueChecker::checkFile(const QFileInfo &file, bool legacy)
         finding.file = path;
         findings.append(finding);
     }
-    m_findings.append(findings);
-    return product.name;
+    return { path, product, findings };
+}
+
+} // namespace
+
+QStringList CatalogueChecker::checkFiles(const QList<QFileInfo> &files, bool legacy)
+{
+    // The readers report into the collector of their own thread, so files are checked side by side.
+    const QList<FileCheck> checks
+        = QtConcurrent::blockingMapped(files, [legacy](const QFileInfo &file) { return checkFile(file, legacy); });
+    QStringList types;
+    for (const FileCheck &check : checks) {
+        ++m_fileCount;
+        if (!check.product.name.isEmpty())
+            m_products.insert(check.path, check.product);
+        m_findings.append(check.findings);
+        types.append(check.product.name);
+    }
+    return types;
 }
 
 QHash<QString, QString> CatalogueChecker::checkRegistry(const QList<QDir> &dirs, bool legacy)
@@ -242,11 +269,11 @@ QHash<QString, QString> CatalogueChecker::checkRegistry(const QList<QDir> &dirs,
         const ZRProductTypeDescriptionReader reader(dir);
         // The same listing as the reader's: its name filter, files only, in file system order.
         const QFileInfoList files = dir.entryInfoList(reader.fileFilter(), QDir::Files, QDir::Unsorted);
+        const QStringList types = checkFiles(files, legacy);
         QMap<QString, QStringList> filesByType;
-        for (const QFileInfo &file : files) {
-            const QString type = checkFile(file, legacy);
-            if (!type.isEmpty())
-                filesByType[type].append(file.filePath());
+        for (int i = 0; i < files.size(); ++i) {
+            if (!types.at(i).isEmpty())
+                filesByType[types.at(i)].append(files.at(i).filePath());
         }
 
         for (auto it = filesByType.cbegin(); it != filesByType.cend(); ++it) {

@@ -15,8 +15,9 @@
 class QFileInfo;
 
 /**
- * Collects the warnings that the library logs while it exists, instead of printing them; other
- * messages go to the handler that was installed before. Not nestable.
+ * Collects the warnings that the library logs on its thread while it exists, instead of printing
+ * them; other messages, and those of other threads, go to the handler that was installed before.
+ * Collectors nest: the innermost one of a thread collects.
  */
 class WarningCollector
 {
@@ -32,7 +33,7 @@ public:
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message);
 
-    QtMessageHandler m_previous = nullptr;
+    WarningCollector *m_outer = nullptr;
     QStringList m_warnings;
 };
 
@@ -57,11 +58,11 @@ class CatalogueChecker
 {
 public:
     /**
-     * Checks one file alone, as a legacy product when @p legacy is true; returns its product type name,
-     * empty when it has none or does not load.
+     * Checks @p files, each alone, as legacy products when @p legacy is true; returns the product
+     * type name of each, empty for a file that has none or does not load. Files are checked in
+     * parallel; their findings keep the order of @p files.
      */
-    QString checkFile(const QFileInfo &file, bool legacy = false);
-
+    QStringList checkFiles(const QList<QFileInfo> &files, bool legacy = false);
     /**
      * Checks @p dirs as one registry reads them: every "*.xml" file in listing order, the later file
      * of a directory replacing an earlier one of the same product type, and the first directory
@@ -84,7 +85,6 @@ public:
      */
     Report report(const FindingStyle &style) const;
 
-private:
     /** Where a file's product is, and what the checks across files need of it. */
     struct Product
     {
@@ -94,6 +94,7 @@ private:
         ZRXMLFinding replacedByPlace;
     };
 
+private:
     void report(
         const ZRXMLFinding &place, ZRXMLFinding::Severity severity, const QString &rule, const QString &message);
 

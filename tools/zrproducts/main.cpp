@@ -168,15 +168,9 @@ Outcome checkCatalogue(const Invocation &invocation)
             else
                 files.append(info);
         }
-        for (const QFileInfo &file : std::as_const(files))
-            checker.checkFile(file);
+        checker.checkFiles(files);
         checker.checkRegistry(directories);
     } else {
-        {
-            // The registries' own warnings would repeat what the check reports per file.
-            WarningCollector silence;
-            Catalogue::load();
-        }
         const auto current = checker.checkRegistry(Catalogue::productDirectories());
         const auto legacy = checker.checkRegistry({ Catalogue::legacyDirectory() }, true);
         checker.checkReplacements(legacy, current);

@@ -1,14 +1,18 @@
 #include "rules.h"
 
+#include "checker.h"
+
 #include "ZRDateRangeConstraint.h"
 #include "ZRDefaultTemplateKey.h"
 #include "ZRDefaultTemplateMap.h"
 #include "ZRLookUpTable.h"
 #include "ZRPageContext.h"
+#include "ZRPageTypeList.h"
 #include "ZRProductClassificationGroup.h"
 #include "ZRProductTypeDescription.h"
 #include "ZRSurroundingKey.h"
 #include "ZRXMLDiagnostics.h"
+#include "ZRXMLParser.h"
 
 #include <QDomDocument>
 #include <QDomElement>
@@ -45,22 +49,6 @@ QDomNode placeOf(QDomElement element, const QString &name)
     return attribute.isNull() ? QDomNode(element) : QDomNode(attribute);
 }
 
-/** Swallows the library's warnings while it exists (expanding a page list with a bad entry warns each time). */
-class SilentWarnings
-{
-public:
-    SilentWarnings()
-        : m_previous(qInstallMessageHandler(ignore))
-    { }
-    ~SilentWarnings() { qInstallMessageHandler(m_previous); }
-    SilentWarnings(const SilentWarnings &) = delete;
-    SilentWarnings &operator=(const SilentWarnings &) = delete;
-
-private:
-    static void ignore(QtMsgType, const QMessageLogContext &, const QString &) { }
-    QtMessageHandler m_previous;
-};
-
 /** One page of the product, for some number of content pages. */
 struct Page
 {
@@ -84,7 +72,8 @@ public:
         // Readers of the description report what they forgive while a collector is active; this
         // one keeps anything that expanding the pages might report away from the check's findings.
         const ZRXMLDiagnostics ignored;
-        const SilentWarnings silent;
+        // Expanding a page list with a bad entry warns each time.
+        const WarningCollector silent;
         int size = 0;
         int previousSize = 0;
         for (unsigned int count = 0; count <= patternCounts; ++count) {
@@ -119,13 +108,16 @@ public:
     /** The page types of the pages, in order of first appearance. */
     QString typeNames() const
     {
-        QStringList names;
-        for (const Page &page : m_pages) {
-            const QString name = keysOf(page.type);
-            if (!names.contains(name))
-                names.append(name);
+        if (m_typeNames.isEmpty()) {
+            QStringList names;
+            for (const Page &page : m_pages) {
+                const QString name = keysOf(page.type);
+                if (!names.contains(name))
+                    names.append(name);
+            }
+            m_typeNames = names.join(QLatin1String(", "));
         }
-        return names.join(QLatin1String(", "));
+        return m_typeNames;
     }
 
 private:
@@ -147,6 +139,7 @@ private:
     std::set<std::tuple<int, int, int>> m_seen;
     int m_mostPages = 0;
     bool m_bounded = true;
+    mutable QString m_typeNames;
 };
 
 /** The "surrounding" elements in the order the library reads them into the product's list. */
@@ -273,13 +266,63 @@ ZRDefaultTemplateMap defaultsOf(const QDomElement &element)
     return ZRDefaultTemplateMap(defaults);
 }
 
+/**
+ * Whether the short form "templates" @p value leaves the layout empty when no "layout" is beside it,
+ * as the library reads it. The answer depends on the value alone, so it is found once per value.
+ */
+bool shortFormLeavesLayoutEmpty(const QString &value, const ZRPageType &pageType)
+{
+    thread_local QHash<QString, bool> known;
+    const auto it = known.constFind(value);
+    if (it != known.cend())
+        return it.value();
+    QDomDocument document;
+    QDomElement entry = document.createElement(QStringLiteral("default"));
+    entry.setAttribute(QStringLiteral("pageType"), keysOf(pageType));
+    entry.setAttribute(QStringLiteral("templates"), value);
+    const ZRDefaultTemplateMap map = defaultsOf(entry);
+    bool empty = true;
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+        if (entry.key().defaultTemplateType() == ZRDefaultTemplateLayout && !entry.value().isEmpty())
+            empty = false;
+    }
+    known.insert(value, empty);
+    return empty;
+}
+
+/** What a "default" element names, read with the library's parsers. */
+struct DefaultEntry
+{
+    QList<ZRPageType> pageTypes;
+    int pageNr = -1;
+    int scenePageCount = -1;
+};
+
+DefaultEntry entryOf(const QDomElement &element)
+{
+    // What the reader forgives was reported when the product was read.
+    const ZRXMLDiagnostics ignored;
+    DefaultEntry entry;
+    for (const ZRPageType &type :
+        ZRPageTypeList(ZRXMLParser::attribute(element, QStringLiteral("pageType"), QString(), true))) {
+        // A part that decodes to no page type is reported where it is read.
+        if (type.value() != 0 && !entry.pageTypes.contains(type))
+            entry.pageTypes.append(type);
+    }
+    std::sort(entry.pageTypes.begin(), entry.pageTypes.end(),
+        [](const ZRPageType &a, const ZRPageType &b) { return a.value() < b.value(); });
+    entry.pageNr = ZRXMLParser::intAttribute(element, QStringLiteral("pageNr"), -1);
+    entry.scenePageCount = ZRXMLParser::intAttribute(element, QStringLiteral("scenePageCount"), -1);
+    return entry;
+}
+
 void checkDefault(const ZRProductTypeDescription &description, QDomElement element, const ProductPages &pages)
 {
-    const ZRDefaultTemplateMap own = defaultsOf(element);
-    if (own.isEmpty())
+    const DefaultEntry entry = entryOf(element);
+    if (entry.pageTypes.isEmpty())
         return;
-    const int pageNr = own.cbegin().key().pageNumber();
-    const int scenePageCount = own.cbegin().key().scenePageCount();
+    const int pageNr = entry.pageNr;
+    const int scenePageCount = entry.scenePageCount;
     if (pageNr >= 0 && !pages.reaches(pageNr)) {
         ZRXMLDiagnostics::report(ZRXMLFinding::Warning, QStringLiteral("default-page-beyond-pages"),
             QStringLiteral("default templates for page %1, which the product never has (it has %2)")
@@ -291,16 +334,8 @@ void checkDefault(const ZRProductTypeDescription &description, QDomElement eleme
 
     const QList<Page> &all = pages.pages();
     const auto applies = [&](const Page &page) { return pageNr == -1 || page.index == pageNr; };
-    QList<int> types;
-    for (auto it = own.cbegin(); it != own.cend(); ++it) {
-        // An entry that decodes to no page type is reported where it is read.
-        if (it.key().pageType().value() != 0 && !types.contains(it.key().pageType().value()))
-            types.append(it.key().pageType().value());
-    }
-    std::sort(types.begin(), types.end());
     QStringList missing;
-    for (const int type : std::as_const(types)) {
-        const ZRPageType pageType { ZRPageTypeEnum(type) };
+    for (const ZRPageType &pageType : entry.pageTypes) {
         if (std::none_of(
                 all.cbegin(), all.cend(), [&](const Page &page) { return applies(page) && page.type == pageType; }))
             missing.append(keysOf(pageType));
@@ -326,7 +361,11 @@ void checkDefault(const ZRProductTypeDescription &description, QDomElement eleme
     }
 
     // The short form gives a layout only as its second of exactly two names.
-    if (!element.hasAttribute(QStringLiteral("templates")) || element.hasAttribute(QStringLiteral("layout")))
+    if (!element.hasAttribute(QStringLiteral("templates")) || element.hasAttribute(QStringLiteral("layout"))
+        || !shortFormLeavesLayoutEmpty(element.attribute(QStringLiteral("templates")), entry.pageTypes.first()))
+        return;
+    const ZRDefaultTemplateMap own = defaultsOf(element);
+    if (own.isEmpty())
         return;
     const ZRDefaultTemplateKey &anyKey = own.cbegin().key();
     const auto ownKey = [&](const ZRPageContext &context, ZRDefaultTemplateType kind) {
