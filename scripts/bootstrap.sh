@@ -2,7 +2,7 @@
 # Installs the Debian packages the project builds with, when any is missing. Safe to run again.
 set -euo pipefail
 
-packages=(cmake g++ make qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev pkg-config libxml2-utils "$@")
+packages=(cmake g++ make qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev pkg-config libxml2-utils libjemalloc-dev "$@")
 missing=()
 for package in "${packages[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "ok installed"; then

@@ -317,32 +317,55 @@ int CatalogueChecker::count(ZRXMLFinding::Severity severity) const
 
 Report CatalogueChecker::report(const FindingStyle &style) const
 {
-    QList<ZRXMLFinding> findings = m_findings;
-    std::stable_sort(findings.begin(), findings.end(), [](const ZRXMLFinding &a, const ZRXMLFinding &b) {
-        return std::tie(a.file, a.line, a.column) < std::tie(b.file, b.line, b.column);
-    });
-    Table table({ { QStringLiteral("file"), QStringLiteral("FILE") },
-        { QStringLiteral("line"), QStringLiteral("LINE") }, { QStringLiteral("column"), QStringLiteral("COLUMN") },
-        { QStringLiteral("severity"), QStringLiteral("SEVERITY") }, { QStringLiteral("rule"), QStringLiteral("RULE") },
-        { QStringLiteral("message"), QStringLiteral("MESSAGE") },
-        { QStringLiteral("suggestion"), QStringLiteral("SUGGESTION") } });
-    for (const ZRXMLFinding &finding : std::as_const(findings)) {
-        table.addRow({ finding.file, finding.line, finding.column, ZRXMLFinding::severityName(finding.severity),
-            finding.rule, finding.message, finding.suggestion.isEmpty() ? QVariant() : QVariant(finding.suggestion) });
+    // Sorted by file, line and column, each file name compared once.
+    QStringList files;
+    for (const ZRXMLFinding &finding : m_findings) {
+        if (files.isEmpty() || files.constLast() != finding.file)
+            files.append(finding.file);
     }
+    files.sort();
+    files.removeDuplicates();
+    QHash<QString, int> rank;
+    for (int i = 0; i < files.size(); ++i)
+        rank.insert(files.at(i), i);
+    QList<std::tuple<int, int, int, qsizetype>> order;
+    order.reserve(m_findings.size());
+    for (qsizetype i = 0; i < m_findings.size(); ++i) {
+        const ZRXMLFinding &finding = m_findings.at(i);
+        order.append({ rank.value(finding.file), finding.line, finding.column, i });
+    }
+    std::sort(order.begin(), order.end());
+    QList<ZRXMLFinding> findings;
+    findings.reserve(m_findings.size());
+    for (const auto &entry : std::as_const(order))
+        findings.append(m_findings.at(std::get<3>(entry)));
+
     const int errors = count(ZRXMLFinding::Error);
     const int warnings = count(ZRXMLFinding::Warning);
     const int notes = count(ZRXMLFinding::Note);
-    Record summary;
-    summary.add(QStringLiteral("files"), m_fileCount)
-        .add(QStringLiteral("errors"), errors)
-        .add(QStringLiteral("warnings"), warnings)
-        .add(QStringLiteral("notes"), notes);
-    Record record;
-    record.add(QStringLiteral("findings"), table).add(QStringLiteral("summary"), summary);
-
-    const int files = m_fileCount;
-    return Report(record, [findings, style, errors, warnings, notes, files](QTextStream &out) {
+    const int fileCount = m_fileCount;
+    const auto record = [findings, errors, warnings, notes, fileCount] {
+        Table table({ { QStringLiteral("file"), QStringLiteral("FILE") },
+            { QStringLiteral("line"), QStringLiteral("LINE") }, { QStringLiteral("column"), QStringLiteral("COLUMN") },
+            { QStringLiteral("severity"), QStringLiteral("SEVERITY") },
+            { QStringLiteral("rule"), QStringLiteral("RULE") },
+            { QStringLiteral("message"), QStringLiteral("MESSAGE") },
+            { QStringLiteral("suggestion"), QStringLiteral("SUGGESTION") } });
+        for (const ZRXMLFinding &finding : findings) {
+            table.addRow({ finding.file, finding.line, finding.column, ZRXMLFinding::severityName(finding.severity),
+                finding.rule, finding.message,
+                finding.suggestion.isEmpty() ? QVariant() : QVariant(finding.suggestion) });
+        }
+        Record summary;
+        summary.add(QStringLiteral("files"), fileCount)
+            .add(QStringLiteral("errors"), errors)
+            .add(QStringLiteral("warnings"), warnings)
+            .add(QStringLiteral("notes"), notes);
+        Record result;
+        result.add(QStringLiteral("findings"), table).add(QStringLiteral("summary"), summary);
+        return result;
+    };
+    return Report(record, [findings, style, errors, warnings, notes, fileCount](QTextStream &out) {
         SourceLines sources;
         for (const ZRXMLFinding &finding : findings)
             printFinding(out, finding, style, &sources);
@@ -351,7 +374,7 @@ Report CatalogueChecker::report(const FindingStyle &style) const
         QStringList counts { counting(errors, QStringLiteral("error")), counting(warnings, QStringLiteral("warning")) };
         if (notes > 0)
             counts.append(counting(notes, QStringLiteral("note")));
-        out << counts.join(QLatin1String(", ")) << " in " << counting(files, QStringLiteral("file")) << '\n';
+        out << counts.join(QLatin1String(", ")) << " in " << counting(fileCount, QStringLiteral("file")) << '\n';
     });
 }
 

@@ -228,9 +228,19 @@ Report::Report(const Table &table)
     : m_model(QVariant::fromValue(table))
 { }
 
+Report::Report(const RecordMaker &record, const TextForm &text)
+    : m_makeRecord(record)
+    , m_text(text)
+{ }
+
+QVariant Report::model() const
+{
+    return m_makeRecord ? QVariant::fromValue(m_makeRecord()) : m_model;
+}
+
 QJsonDocument Report::toJson() const
 {
-    const QJsonValue json = toJsonValue(m_model);
+    const QJsonValue json = toJsonValue(model());
     return json.isArray() ? QJsonDocument(json.toArray()) : QJsonDocument(json.toObject());
 }
 
@@ -238,8 +248,8 @@ void Report::print(QTextStream &out) const
 {
     if (m_text)
         m_text(out);
-    else if (isTable(m_model))
-        m_model.value<Table>().print(out);
+    else if (const QVariant model = this->model(); isTable(model))
+        model.value<Table>().print(out);
     else
-        m_model.value<Record>().print(out);
+        model.value<Record>().print(out);
 }

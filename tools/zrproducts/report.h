@@ -74,16 +74,22 @@ class Report
 {
 public:
     using TextForm = std::function<void(QTextStream &out)>;
+    using RecordMaker = std::function<Record()>;
 
     Report() = default;
     explicit Report(const Record &record, const TextForm &text = TextForm());
     explicit Report(const Table &table);
+    /** A report whose record is made only when it is written as JSON; @p text writes it for people. */
+    Report(const RecordMaker &record, const TextForm &text);
 
     QJsonDocument toJson() const;
     void print(QTextStream &out) const;
 
 private:
+    QVariant model() const;
+
     QVariant m_model;
+    RecordMaker m_makeRecord;
     TextForm m_text;
 };
 

@@ -96,6 +96,11 @@ public:
     }
 
     const QList<Page> &pages() const { return m_pages; }
+    /** Whether some page is of @p type: any page, or the page at @p index when that is not -1. */
+    bool has(const ZRPageType &type, int index = -1) const
+    {
+        return index == -1 ? m_types.contains(qint64(type.value())) : m_typesAt.contains(key(type, index));
+    }
     bool isEmpty() const { return m_pages.isEmpty(); }
     bool reaches(int index) const { return index >= 0 && index < m_mostPages; }
     /** How many pages the product has, as far as they were expanded: "at most 26 pages". */
@@ -128,15 +133,27 @@ private:
         m_mostPages = std::max(m_mostPages, types.size());
         for (int index = 0; index < types.size(); ++index) {
             const Page page { types.at(index), description.pageAlignment(types, index), index };
-            const auto key = std::make_tuple(int(page.type.value()), int(page.alignment.value()), index);
-            if (m_seen.insert(key).second)
-                m_pages.append(page);
+            const qsizetype seen = m_seen.size();
+            m_seen.insert(key(page.type, index) ^ (quint64(page.alignment.value()) << 24));
+            if (m_seen.size() == seen)
+                continue;
+            m_pages.append(page);
+            m_types.insert(qint64(page.type.value()));
+            m_typesAt.insert(key(page.type, index));
         }
         return types.size();
     }
 
+    /** Page type and index in one number; page indexes stay below 2^24, alignments take the next 8 bits. */
+    static quint64 key(const ZRPageType &type, int index)
+    {
+        return quint64(type.value()) << 32 | quint32(index & 0xFFFFFF);
+    }
+
     QList<Page> m_pages;
-    std::set<std::tuple<int, int, int>> m_seen;
+    QSet<quint64> m_seen;
+    QSet<quint64> m_typesAt;
+    QSet<qint64> m_types;
     int m_mostPages = 0;
     bool m_bounded = true;
     mutable QString m_typeNames;
@@ -336,8 +353,7 @@ void checkDefault(const ZRProductTypeDescription &description, QDomElement eleme
     const auto applies = [&](const Page &page) { return pageNr == -1 || page.index == pageNr; };
     QStringList missing;
     for (const ZRPageType &pageType : entry.pageTypes) {
-        if (std::none_of(
-                all.cbegin(), all.cend(), [&](const Page &page) { return applies(page) && page.type == pageType; }))
+        if (!pages.has(pageType, pageNr))
             missing.append(keysOf(pageType));
     }
     if (!missing.isEmpty()) {
