@@ -33,8 +33,8 @@ address)
     ;;
 thread)
     export ZR_BUILD_DIR=${ZR_BUILD_DIR:-build-tsan}
-    export ZR_CMAKE_ARGS="$ZR_CMAKE_ARGS -DZR_SANITIZE=thread -DZR_BUILD_TOOLS=OFF"
-    bash scripts/build.sh --target tst_concurrency tsancontrol
+    export ZR_CMAKE_ARGS="$ZR_CMAKE_ARGS -DZR_SANITIZE=thread"
+    bash scripts/build.sh --target tst_concurrency tsancontrol zrproducts
     # QMutex annotates itself and ZRReadWriteLock annotates QReadWriteLock; the suppressions only cover
     # races inside Qt's own code.
     export TSAN_OPTIONS="halt_on_error=1:second_deadlock_stack=1:suppressions=$(pwd)/scripts/sanitizers/tsan.supp"

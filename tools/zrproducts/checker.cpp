@@ -12,11 +12,13 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QTextStream>
-#include <QtConcurrent>
+#include <QThread>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <memory>
+#include <thread>
 #include <tuple>
 
 namespace {
@@ -152,8 +154,11 @@ WarningCollector::WarningCollector()
     : m_outer(currentCollector)
 {
     // Installed once for good: collectors come and go on several threads at the same time.
-    static const QtMessageHandler previous = qInstallMessageHandler(handle);
-    previousHandler = previous;
+    static const bool installed = [] {
+        previousHandler = qInstallMessageHandler(handle);
+        return true;
+    }();
+    Q_UNUSED(installed)
     currentCollector = this;
 }
 
@@ -248,9 +253,21 @@ FileCheck checkFile(const QFileInfo &file, bool legacy)
 
 QStringList CatalogueChecker::checkFiles(const QList<QFileInfo> &files, bool legacy)
 {
-    // The readers report into the collector of their own thread, so files are checked side by side.
-    const QList<FileCheck> checks
-        = QtConcurrent::blockingMapped(files, [legacy](const QFileInfo &file) { return checkFile(file, legacy); });
+    // The readers report into the collector of their own thread, so files are checked side by side,
+    // each thread taking the next file until none is left.
+    std::vector<FileCheck> checks(size_t(files.size()));
+    std::atomic<qsizetype> next { 0 };
+    const auto work = [&] {
+        for (qsizetype i = next++; i < files.size(); i = next++)
+            checks[size_t(i)] = checkFile(files.at(i), legacy);
+    };
+    std::vector<std::thread> helpers;
+    for (qsizetype i = 1; i < std::min<qsizetype>(QThread::idealThreadCount(), files.size()); ++i)
+        helpers.emplace_back(work);
+    work();
+    for (std::thread &helper : helpers)
+        helper.join();
+
     QStringList types;
     for (const FileCheck &check : checks) {
         ++m_fileCount;

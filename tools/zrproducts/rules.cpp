@@ -131,6 +131,10 @@ private:
     {
         const ZRPageTypeList types = description.pageTypes(count);
         m_mostPages = std::max(m_mostPages, types.size());
+        // A page's alignment follows from the list and its place in it: the same list adds nothing new.
+        if (types == m_previousTypes)
+            return types.size();
+        m_previousTypes = types;
         for (int index = 0; index < types.size(); ++index) {
             const Page page { types.at(index), description.pageAlignment(types, index), index };
             const qsizetype seen = m_seen.size();
@@ -151,6 +155,7 @@ private:
     }
 
     QList<Page> m_pages;
+    ZRPageTypeList m_previousTypes;
     QSet<quint64> m_seen;
     QSet<quint64> m_typesAt;
     QSet<qint64> m_types;
