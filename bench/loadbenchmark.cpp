@@ -24,6 +24,7 @@
 #include <ZRProductTypeDescription.h>
 #include <ZRSurroundingDescriptionList.h>
 #include <ZRXMLLoader.h>
+#include <ZRXMLStringPool.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -206,6 +207,8 @@ int memoryBreakdown(const QDir &directory)
     std::list<ZRPreview3DDescription> previews;
     std::list<ZRProductClassification> classifications;
     qint64 templateEntries = 0;
+    // As the reader shares the texts of one directory's products.
+    const ZRXMLStringPool strings;
 
     const auto measure = [](Part &part, auto build) {
         const qint64 before = currentMemory().heapBytes;

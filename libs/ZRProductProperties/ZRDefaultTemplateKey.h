@@ -22,10 +22,10 @@ public:
     virtual ~ZRDefaultTemplateKey();
     ZRDefaultTemplateKey &operator=(const ZRDefaultTemplateKey &other);
 
-    ZRPageContext pageContext() const { return m_pageContext; }
-    ZRPageType pageType() const { return m_pageContext.pageType(); }
-    ZRPageAlignment pageAlignment() const { return m_pageContext.alignment(); }
-    ZRDefaultTemplateType defaultTemplateType() const { return m_defaultTemplateType; }
+    ZRPageContext pageContext() const { return ZRPageContext(pageType(), pageAlignment()); }
+    ZRPageType pageType() const { return ZRPageType(m_pageType); }
+    ZRPageAlignment pageAlignment() const { return ZRPageAlignment(m_alignment); }
+    ZRDefaultTemplateType defaultTemplateType() const { return ZRDefaultTemplateType(m_defaultTemplateType); }
     int pageNumber() const { return m_pageNumber; }
     int scenePageCount() const { return m_scenePageCount; }
 
@@ -33,10 +33,14 @@ public:
     bool operator!=(const ZRDefaultTemplateKey &other) const { return !(*this == other); }
 
 private:
-    ZRPageContext m_pageContext;
-    ZRDefaultTemplateType m_defaultTemplateType = ZRDefaultTemplateLayout;
+    friend ZRPRODUCTPROPERTIES_EXPORT size_t qHash(const ZRDefaultTemplateKey &key, size_t seed) noexcept;
+
+    // A product keeps about 150 keys: the context is held as its two values, rebuilt when asked for.
+    ZRPageTypeEnum m_pageType;
+    ZRPageAlignmentEnum m_alignment;
     int m_pageNumber = -1;
     int m_scenePageCount = -1;
+    quint8 m_defaultTemplateType = ZRDefaultTemplateLayout;
 };
 
 /**

@@ -3,6 +3,7 @@
 #include "ZRPageTypeList.h"
 #include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLStringPool.h"
 #include "ZRXMLVocabulary.h"
 
 #include <QDomElement>
@@ -58,11 +59,12 @@ void ZRDefaultTemplateMap::applyDefaultsNode(const QDomElement &element)
         const QString layoutDefault = partCount == 2 ? parts[1].toString() : QString();
         const QString backgroundDefault = partCount == 0 ? QStringLiteral("201") : parts[0].toString();
 
-        const QString layout
-            = removeUmlauts(ZRXMLParser::attribute(node, QStringLiteral("layout"), layoutDefault, true).trimmed());
-        const QString background = removeUmlauts(
-            ZRXMLParser::attribute(node, QStringLiteral("background"), backgroundDefault, true).trimmed());
-        const QString design = removeUmlauts(ZRXMLParser::attribute(node, QStringLiteral("design"), QString(), true));
+        const QString layout = ZRXMLStringPool::share(
+            removeUmlauts(ZRXMLParser::attribute(node, QStringLiteral("layout"), layoutDefault, true).trimmed()));
+        const QString background = ZRXMLStringPool::share(removeUmlauts(
+            ZRXMLParser::attribute(node, QStringLiteral("background"), backgroundDefault, true).trimmed()));
+        const QString design = ZRXMLStringPool::share(
+            removeUmlauts(ZRXMLParser::attribute(node, QStringLiteral("design"), QString(), true)));
 
         for (const ZRPageType &pageType : pageTypes) {
             ZRPageAlignment::Table::forEachBit(alignment.value(), [&](ZRPageAlignmentEnum flag) {

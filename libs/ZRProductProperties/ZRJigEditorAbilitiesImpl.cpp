@@ -3,6 +3,7 @@
 #include "ZRJigType.h"
 #include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLStringPool.h"
 #include "ZRXMLVocabulary.h"
 
 #include <list>
@@ -45,13 +46,15 @@ ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl(const QDomElement &element)
                 child.attributes().namedItem(QStringLiteral("pageType")), QStringLiteral("page type"));
         }
         const ZRPageType pageTypes(ZRXMLParser::attribute(child, QStringLiteral("pageType"), QString(), true));
-        const QList<QString> keys = child.text().split(QLatin1Char(','), Qt::SkipEmptyParts, Qt::CaseSensitive);
+        QStringList keys = child.text().split(QLatin1Char(','), Qt::SkipEmptyParts, Qt::CaseSensitive);
+        for (QString &key : keys)
+            key = ZRXMLStringPool::share(key);
         ZRPageType::Table::forEachBit(pageTypes.value(), [this, &keys](ZRPageTypeEnum bit) {
-            const ZRPageType single(bit);
-            if (single.isValid())
-                m_categories.insert(single, keys);
+            if (ZRPageType(bit).isValid())
+                m_categories.insert(int(bit), keys);
         });
     }
+    m_categories.squeeze();
 }
 
 ZRJigEditorAbilitiesImpl::ZRJigEditorAbilitiesImpl(const ZRJigEditorAbilitiesImpl &other) = default;
@@ -60,7 +63,7 @@ ZRJigEditorAbilitiesImpl::~ZRJigEditorAbilitiesImpl() = default;
 
 QStringList ZRJigEditorAbilitiesImpl::allowedCategories(const ZRPageType &pageType) const
 {
-    return m_categories.value(pageType);
+    return m_categories.value(int(pageType.value()));
 }
 
 bool ZRJigEditorAbilitiesImpl::operator==(const ZRJigEditorAbilitiesImpl &other) const

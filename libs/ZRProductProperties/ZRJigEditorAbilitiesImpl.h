@@ -1,11 +1,11 @@
 #ifndef ZRJIGEDITORABILITIESIMPL_H
 #define ZRJIGEDITORABILITIESIMPL_H
 
+#include "ZRCompactMap.h"
 #include "ZRPageType.h"
 #include "zrproductproperties_export.h"
 
 #include <QDomElement>
-#include <QHash>
 #include <QList>
 #include <QSharedData>
 #include <QString>
@@ -46,7 +46,8 @@ private:
     bool m_rotatable = false;
     bool m_fullOnEachPage = true;
     bool m_exactArticle = false;
-    QHash<ZRPageType, QList<QString>> m_categories;
+    // By page type value: a jig has categories for a few page types.
+    ZRCompactMap<int, QStringList> m_categories;
 };
 
 #endif

@@ -49,8 +49,9 @@ ZRProductEditorAbilitiesImpl::ZRProductEditorAbilitiesImpl(const QDomElement &el
         const QDomElement jig = node.toElement();
         if (!jig.isNull() && ZRXMLDiagnostics::isActive())
             ZRXMLDiagnostics::checkKeys(jig.tagName(), jigsVocabulary.children(), QStringLiteral("jig type"), jig);
-        m_jigs.insert(ZRJigType(jig.tagName()), ZRJigEditorAbilities(jig));
+        m_jigs.insert(int(ZRJigType(jig.tagName()).value()), ZRJigEditorAbilities(jig));
     }
+    m_jigs.squeeze();
 }
 
 ZRProductEditorAbilitiesImpl::ZRProductEditorAbilitiesImpl(const ZRProductEditorAbilitiesImpl &other) = default;
@@ -59,7 +60,7 @@ ZRProductEditorAbilitiesImpl::~ZRProductEditorAbilitiesImpl() = default;
 
 ZRJigEditorAbilities ZRProductEditorAbilitiesImpl::jigAbilities(const ZRJigType &jigType) const
 {
-    return m_jigs.value(jigType, defaultAbilites);
+    return m_jigs.value(int(jigType.value()), defaultAbilites);
 }
 
 bool ZRProductEditorAbilitiesImpl::isJigEnabled(const ZRJigType &jigType) const

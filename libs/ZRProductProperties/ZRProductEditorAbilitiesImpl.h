@@ -1,6 +1,7 @@
 #ifndef ZRPRODUCTEDITORABILITIESIMPL_H
 #define ZRPRODUCTEDITORABILITIESIMPL_H
 
+#include "ZRCompactMap.h"
 #include "ZRDateRangeConstraint.h"
 #include "ZRJigEditorAbilities.h"
 #include "ZRJigType.h"
@@ -10,7 +11,6 @@
 #include "zrproductproperties_export.h"
 
 #include <QDomElement>
-#include <QHash>
 #include <QSharedData>
 #include <QStringList>
 
@@ -66,7 +66,8 @@ private:
     int m_editorStartPage = 0;
     ZRDateRangeConstraint m_dateRangeConstraint;
     bool m_showChangeBaseDesignButton = false;
-    QHash<ZRJigType, ZRJigEditorAbilities> m_jigs;
+    // By jig type value: a product names a few jig types.
+    ZRCompactMap<int, ZRJigEditorAbilities> m_jigs;
 };
 
 #endif

@@ -171,10 +171,8 @@ ZRProductTypeDescription::ZRProductTypeDescription(const QDomElement &productEle
     if (!priceCategory.isNull())
         m_priceListCategory = priceCategory.text();
 
-    m_safetyMargins.insert(ZRPageType(allPages), integer(QStringLiteral("safetymargin"), 0));
-    const int coverMargin = integer(QStringLiteral("safetymargincover"), -1);
-    if (coverMargin != -1)
-        m_safetyMargins.insert(ZRPageType(coverPages), coverMargin);
+    m_safetyMargin = integer(QStringLiteral("safetymargin"), 0);
+    m_coverSafetyMargin = integer(QStringLiteral("safetymargincover"), -1);
 
     m_barcodeDefinitions = ZRBarcodeDefinitionList::createFromProductsXML(
         productElement.firstChildElement(QStringLiteral("barcodes")), tenthMillimetre);
@@ -313,12 +311,17 @@ bool ZRProductTypeDescription::contentAllowedOnPage(int page) const
 
 int ZRProductTypeDescription::safetyMargin(const ZRPageType &type) const
 {
-    if (type.intersects(coverPages)) {
-        const auto cover = m_safetyMargins.constFind(ZRPageType(coverPages));
-        if (cover != m_safetyMargins.constEnd())
-            return *cover;
-    }
-    return m_safetyMargins.value(ZRPageType(allPages), 0);
+    if (m_coverSafetyMargin != -1 && type.intersects(coverPages))
+        return m_coverSafetyMargin;
+    return m_safetyMargin;
+}
+
+QHash<ZRPageType, int> ZRProductTypeDescription::safetyMarginTable() const
+{
+    QHash<ZRPageType, int> table { { ZRPageType(allPages), m_safetyMargin } };
+    if (m_coverSafetyMargin != -1)
+        table.insert(ZRPageType(coverPages), m_coverSafetyMargin);
+    return table;
 }
 
 ZRMargins ZRProductTypeDescription::safetyMargins(const ZRPageType &type) const

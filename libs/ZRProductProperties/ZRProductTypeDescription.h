@@ -92,7 +92,7 @@ public:
     ZRDefaultTemplateMap defaultTemplates() const { return m_defaultTemplates; }
     ZRProductEditorAbilities editorAbilities() const { return m_editorAbilities; }
     /** The stored safety margins by page type key (all pages, and cover pages when given). */
-    QHash<ZRPageType, int> safetyMarginTable() const { return m_safetyMargins; }
+    QHash<ZRPageType, int> safetyMarginTable() const;
 
     ZRSurroundingDescription findSurrounding(const ZRSurroundingKey &key) const;
     bool hasSurroundingWithBindingShade() const;
@@ -172,7 +172,9 @@ private:
     ZRProductType m_replacedBy;
     ZRXMLRewriterStrategy m_conversionStrategy;
     ZRProductEditorAbilities m_editorAbilities;
-    QHash<ZRPageType, int> m_safetyMargins;
+    // The table of safety margins holds one or two entries: all pages, and the cover when it has its own.
+    int m_safetyMargin = 0;
+    int m_coverSafetyMargin = -1;
     QString m_priceListCategory;
     bool m_isVario = false;
     bool m_isTwoSided = false;

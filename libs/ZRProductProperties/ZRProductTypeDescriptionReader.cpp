@@ -1,5 +1,7 @@
 #include "ZRProductTypeDescriptionReader.h"
 
+#include "ZRXMLStringPool.h"
+
 #include "ZRProductTypeDescription.h"
 #include "ZRXMLLoader.h"
 #include "ZRXMLVocabulary.h"
@@ -44,6 +46,8 @@ QHash<ZRProductType, ZRProductTypeDescription *> ZRProductTypeDescriptionReader:
     QList<ZRProductTypeDescription *> *replaced) const
 {
     QHash<ZRProductType, ZRProductTypeDescription *> result;
+    // The products of a directory share the texts they repeat.
+    const ZRXMLStringPool strings;
     const QFileInfoList files = m_dir.entryInfoList(fileFilter(), QDir::Files, QDir::Unsorted);
     result.reserve(files.size());
     for (const QFileInfo &file : files) {

@@ -5,6 +5,7 @@
 #include "ZRXMLDiagnostics.h"
 #include "ZRXMLLimits.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLStringPool.h"
 #include "ZRXMLVocabulary.h"
 
 #include <QMutex>
@@ -47,7 +48,8 @@ ZRSpiralConfig::ZRSpiralConfig(const QDomElement &element)
     , m_loopHeight(ZRXMLParser::intAttribute(element, QStringLiteral("loopHeight"), 150))
     , m_loopWidth(ZRXMLParser::intAttribute(element, QStringLiteral("loopWidth"), 54))
     , m_loopDistance(ZRXMLParser::intAttribute(element, QStringLiteral("loopDistance"), 30))
-    , m_loopImageName(ZRXMLParser::attribute(element, QStringLiteral("variant"), defaultLoopImageName(), true))
+    , m_loopImageName(ZRXMLStringPool::share(
+          ZRXMLParser::attribute(element, QStringLiteral("variant"), defaultLoopImageName(), true)))
 {
     vocabulary.check(element);
     const QDomElement loopImages = element.firstChildElement(loopImagesVocabulary.element());
@@ -64,8 +66,9 @@ ZRSpiralConfig::ZRSpiralConfig(const QDomElement &element)
             }
             continue;
         }
-        m_loopImagesByColor.insert(variant, imagePath);
+        m_loopImagesByColor.insert(ZRXMLStringPool::share(variant), ZRXMLStringPool::share(imagePath));
     }
+    m_loopImagesByColor.squeeze();
 }
 
 ZRSpiralConfig::~ZRSpiralConfig() = default;
@@ -99,9 +102,10 @@ QSize ZRSpiralConfig::spiralSize(Qt::Orientation orientation) const
 
 void ZRSpiralConfig::setSpiralColor(const QString &color)
 {
-    const auto it = m_loopImagesByColor.constFind(color);
-    if (it != m_loopImagesByColor.constEnd())
-        m_loopImageName = it.value();
+    // Only named pictures are stored: an empty one means the colour has none.
+    const QString imagePath = m_loopImagesByColor.value(color);
+    if (!imagePath.isEmpty())
+        m_loopImageName = imagePath;
 }
 
 QImage ZRSpiralConfig::bindingLoopImage() const

@@ -1,6 +1,7 @@
 #ifndef ZRSPIRALCONFIG_H
 #define ZRSPIRALCONFIG_H
 
+#include "ZRCompactMap.h"
 #include "zrproductproperties_export.h"
 
 #include <QDomElement>
@@ -92,7 +93,7 @@ private:
     int m_loopWidth = 54;
     int m_loopDistance = 30;
     QString m_loopImageName;
-    QHash<QString, QString> m_loopImagesByColor;
+    ZRCompactMap<QString, QString> m_loopImagesByColor;
 };
 
 #endif

@@ -4,6 +4,7 @@
 #include "ZRSurroundingKey.h"
 #include "ZRXMLDiagnostics.h"
 #include "ZRXMLParser.h"
+#include "ZRXMLStringPool.h"
 #include "ZRXMLVocabulary.h"
 
 #include <QDomElement>
@@ -63,8 +64,10 @@ ZRSurroundingDescription::ZRSurroundingDescription(
     , m_paintOnTop(ZRXMLParser::boolAttribute(attributes, QStringLiteral("paintOnTop"), true))
     , m_canBeHiddenByUser(ZRXMLParser::boolAttribute(attributes, QStringLiteral("canBeHiddenByUser"), false))
     , m_hideGrafikInPreview(ZRXMLParser::boolAttribute(attributes, QStringLiteral("hideGrafikInPreview"), false))
-    , m_imageResource(ZRXMLParser::attribute(attributes, QStringLiteral("image"), QString(), true))
-    , m_imageResourceSpotColor(ZRXMLParser::attribute(attributes, QStringLiteral("imageSpotColor"), QString(), true))
+    , m_imageResource(
+          ZRXMLStringPool::share(ZRXMLParser::attribute(attributes, QStringLiteral("image"), QString(), true)))
+    , m_imageResourceSpotColor(
+          ZRXMLStringPool::share(ZRXMLParser::attribute(attributes, QStringLiteral("imageSpotColor"), QString(), true)))
     , m_spotColor(ZRXMLParser::attribute(attributes, QStringLiteral("spotColor"), QString(), true))
     , m_spotColorMask(parseMask(ZRXMLParser::attribute(attributes, QStringLiteral("spotColorMask"), QString(), true)))
     , m_editableArea(ZRXMLParser::readRect(attributes))

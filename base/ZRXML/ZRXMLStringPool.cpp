@@ -1,0 +1,23 @@
+#include "ZRXMLStringPool.h"
+
+namespace {
+thread_local ZRXMLStringPool *activePool = nullptr;
+} // namespace
+
+ZRXMLStringPool::ZRXMLStringPool()
+    : m_outer(activePool)
+{
+    activePool = this;
+}
+
+ZRXMLStringPool::~ZRXMLStringPool()
+{
+    activePool = m_outer;
+}
+
+QString ZRXMLStringPool::share(const QString &text)
+{
+    if (!activePool || text.isEmpty())
+        return text;
+    return *activePool->m_strings.insert(text);
+}
