@@ -21,3 +21,10 @@ QString ZRXMLStringPool::share(const QString &text)
         return text;
     return *activePool->m_strings.insert(text);
 }
+
+QVariant *ZRXMLStringPool::recordSlot(QMetaType type, const QString &text)
+{
+    if (!activePool)
+        return nullptr;
+    return &activePool->m_records[{ type.id(), text }];
+}

@@ -76,7 +76,9 @@ ZRSurroundingDescription::ZRSurroundingDescription(
     , m_spineFoldWidth(ZRXMLParser::intAttribute(attributes, QStringLiteral("spinefoldwidth"), 0))
     , m_calendarHoleConfig(element.firstChildElement(QStringLiteral("hole")))
     , m_spiralConfig(element.firstChildElement(QStringLiteral("spirals")))
-    , m_variant(ZRXMLParser::attribute(attributes, QStringLiteral("variant"), QString(), true))
+    , m_variant(ZRXMLStringPool::shareRecord<ZRArticleVariants>(
+          ZRXMLParser::attribute(attributes, QStringLiteral("variant"), QString(), true),
+          [](const QString &text) { return ZRArticleVariants(text); }))
     , m_tileSize(ZRXMLParser::intAttribute(attributes, QStringLiteral("tileWidth"), -1),
           ZRXMLParser::intAttribute(attributes, QStringLiteral("tileHeight"), -1))
 {
