@@ -4,6 +4,8 @@
 #include <QStringTokenizer>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -38,16 +40,24 @@ public:
     {
         QDomDocument document;
         QString file;
+        /** Gives the text; called when a finding first needs it, as most documents have none. */
+        std::function<QString()> decode;
         QString text;
         QList<qsizetype> lineStarts;
     };
 
-    const Source *sourceOf(const QDomNode &node) const
+    const Source *sourceOf(const QDomNode &node)
     {
         const QDomDocument document = node.ownerDocument();
-        for (const Source &source : sources) {
-            if (source.document == document)
-                return &source;
+        for (Source &source : sources) {
+            if (source.document != document)
+                continue;
+            if (source.decode) {
+                source.text = std::exchange(source.decode, nullptr)();
+                for (qsizetype i = source.text.indexOf(u'\n'); i >= 0; i = source.text.indexOf(u'\n', i + 1))
+                    source.lineStarts.append(i + 1);
+            }
+            return &source;
         }
         return nullptr;
     }
@@ -258,12 +268,9 @@ QList<ZRXMLFinding> ZRXMLDiagnostics::takeFindings()
     return std::exchange(d->findings, {});
 }
 
-void ZRXMLDiagnostics::addSource(const QDomDocument &document, const QString &file, const QString &text)
+void ZRXMLDiagnostics::addSource(
+    const QDomDocument &document, const QString &file, const std::function<QString()> &decode)
 {
-    if (!activeCollector)
-        return;
-    Private::Source source { document, file, text, { 0 } };
-    for (qsizetype i = text.indexOf(u'\n'); i >= 0; i = text.indexOf(u'\n', i + 1))
-        source.lineStarts.append(i + 1);
-    activeCollector->d->sources.append(source);
+    if (activeCollector)
+        activeCollector->d->sources.append({ document, file, decode, QString(), { 0 } });
 }

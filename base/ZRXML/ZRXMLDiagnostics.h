@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 /** One thing that a reader forgave or a check found, with the place in the file it is about. */
@@ -110,8 +111,11 @@ public:
     /** The findings, then forgets them and the documents it knows. */
     QList<ZRXMLFinding> takeFindings();
 
-    /** Called by the loader: @p document was read from @p file, whose decoded text is @p text. */
-    static void addSource(const QDomDocument &document, const QString &file, const QString &text);
+    /**
+     * Called by the loader: @p document was read from @p file, whose text @p decode gives; it is called
+     * once, when a finding about the document first needs a place.
+     */
+    static void addSource(const QDomDocument &document, const QString &file, const std::function<QString()> &decode);
 
 private:
     class Private;

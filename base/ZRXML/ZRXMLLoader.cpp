@@ -391,8 +391,10 @@ QDomDocument loadDocument(const QByteArray &content, const QString &file, const 
         ZRXMLDiagnostics::report(finding);
         return document;
     }
-    QStringDecoder decoder = decoderFor(content);
-    ZRXMLDiagnostics::addSource(document, file, decoder.decode(content));
+    ZRXMLDiagnostics::addSource(document, file, [content] {
+        QStringDecoder decoder = decoderFor(content);
+        return QString(decoder.decode(content));
+    });
     return document;
 }
 

@@ -20,6 +20,7 @@
 #include <memory>
 #include <thread>
 #include <tuple>
+#include <vector>
 
 namespace {
 thread_local WarningCollector *currentCollector = nullptr;
@@ -121,21 +122,26 @@ private:
     QHash<QString, QStringList> m_lines;
 };
 
-/** Writes @p finding as a compiler does: "file:line:col: severity: message; suggestion [rule]". */
-void printFinding(QTextStream &out, const ZRXMLFinding &finding, const FindingStyle &style, SourceLines *sources)
+/** @p finding as a compiler writes it: "file:line:col: severity: message; suggestion [rule]", and a line break. */
+QString findingLine(const ZRXMLFinding &finding, bool inColour)
 {
-    const auto colour = [&style](const char *code) { return style.colour ? code : ""; };
-    QString place = finding.file;
+    const auto colour = [inColour](const char *code) { return QLatin1String(inColour ? code : ""); };
+    QString text = colour(Colour::bold) + finding.file;
     if (finding.line > 0)
-        place += QStringLiteral(":%1:%2").arg(finding.line).arg(finding.column);
-    out << colour(Colour::bold) << place << ':' << colour(Colour::reset) << ' '
-        << colour(severityColour(finding.severity)) << ZRXMLFinding::severityName(finding.severity) << ':'
-        << colour(Colour::reset) << ' ' << finding.message;
+        text += u':' + QString::number(finding.line) + u':' + QString::number(finding.column);
+    text += u':' + colour(Colour::reset) + u' ' + colour(severityColour(finding.severity))
+        + ZRXMLFinding::severityName(finding.severity) + u':' + colour(Colour::reset) + u' ' + finding.message;
     if (!finding.suggestion.isEmpty())
-        out << "; " << finding.suggestion;
-    out << " [" << colour(severityColour(finding.severity)) << finding.rule << colour(Colour::reset) << "]\n";
+        text += QLatin1String("; ") + finding.suggestion;
+    text += QLatin1String(" [") + colour(severityColour(finding.severity)) + finding.rule + colour(Colour::reset)
+        + QLatin1String("]\n");
+    return text;
+}
 
-    if (!style.showSource || finding.line < 1)
+/** The line of the file that @p finding is about, with a caret under its column; nothing without a place. */
+void printSource(QTextStream &out, const ZRXMLFinding &finding, bool inColour, SourceLines *sources)
+{
+    if (finding.line < 1)
         return;
     const QString line = sources->line(finding.file, finding.line);
     if (line.isEmpty())
@@ -146,7 +152,7 @@ void printFinding(QTextStream &out, const ZRXMLFinding &finding, const FindingSt
         if (c != QLatin1Char('\t'))
             c = QLatin1Char(' ');
     }
-    out << line << '\n' << indent << colour(Colour::green) << '^' << colour(Colour::reset) << '\n';
+    out << line << '\n' << indent << (inColour ? Colour::green : "") << '^' << (inColour ? Colour::reset : "") << '\n';
 }
 } // namespace
 
@@ -186,9 +192,11 @@ struct FileCheck
     QString path;
     CatalogueChecker::Product product;
     QList<ZRXMLFinding> findings;
+    /** The findings as text, made here so that the threads share the work. */
+    QStringList lines;
 };
 
-FileCheck checkFile(const QFileInfo &file, bool legacy)
+FileCheck checkFile(const QFileInfo &file, bool legacy, bool inColour)
 {
     const QString path = file.filePath();
     ZRXMLDiagnostics diagnostics;
@@ -246,7 +254,11 @@ FileCheck checkFile(const QFileInfo &file, bool legacy)
         finding.file = path;
         findings.append(finding);
     }
-    return { path, product, findings };
+    QStringList lines;
+    lines.reserve(findings.size());
+    for (const ZRXMLFinding &finding : std::as_const(findings))
+        lines.append(findingLine(finding, inColour));
+    return { path, product, findings, lines };
 }
 
 } // namespace
@@ -259,7 +271,7 @@ QStringList CatalogueChecker::checkFiles(const QList<QFileInfo> &files, bool leg
     std::atomic<qsizetype> next { 0 };
     const auto work = [&] {
         for (qsizetype i = next++; i < files.size(); i = next++)
-            checks[size_t(i)] = checkFile(files.at(i), legacy);
+            checks[size_t(i)] = checkFile(files.at(i), legacy, m_style.colour);
     };
     std::vector<std::thread> helpers;
     for (qsizetype i = 1; i < std::min<qsizetype>(QThread::idealThreadCount(), files.size()); ++i)
@@ -269,11 +281,12 @@ QStringList CatalogueChecker::checkFiles(const QList<QFileInfo> &files, bool leg
         helper.join();
 
     QStringList types;
-    for (const FileCheck &check : checks) {
+    for (FileCheck &check : checks) {
         ++m_fileCount;
         if (!check.product.name.isEmpty())
             m_products.insert(check.path, check.product);
-        m_findings.append(check.findings);
+        m_findings.append(std::move(check.findings));
+        m_lines.append(std::move(check.lines));
         types.append(check.product.name);
     }
     return types;
@@ -332,7 +345,7 @@ int CatalogueChecker::count(ZRXMLFinding::Severity severity) const
         [severity](const ZRXMLFinding &finding) { return finding.severity == severity; }));
 }
 
-Report CatalogueChecker::report(const FindingStyle &style) const
+Report CatalogueChecker::report() const
 {
     // Sorted by file, line and column, each file name compared once.
     QStringList files;
@@ -345,30 +358,34 @@ Report CatalogueChecker::report(const FindingStyle &style) const
     QHash<QString, int> rank;
     for (int i = 0; i < files.size(); ++i)
         rank.insert(files.at(i), i);
-    QList<std::tuple<int, int, int, qsizetype>> order;
-    order.reserve(m_findings.size());
+    std::vector<std::tuple<int, int, int, qsizetype>> sorted;
+    sorted.reserve(size_t(m_findings.size()));
     for (qsizetype i = 0; i < m_findings.size(); ++i) {
         const ZRXMLFinding &finding = m_findings.at(i);
-        order.append({ rank.value(finding.file), finding.line, finding.column, i });
+        sorted.emplace_back(rank.value(finding.file), finding.line, finding.column, i);
     }
-    std::sort(order.begin(), order.end());
-    QList<ZRXMLFinding> findings;
-    findings.reserve(m_findings.size());
-    for (const auto &entry : std::as_const(order))
-        findings.append(m_findings.at(std::get<3>(entry)));
+    std::sort(sorted.begin(), sorted.end());
+    QList<qsizetype> order;
+    order.reserve(m_findings.size());
+    for (const auto &entry : sorted)
+        order.append(std::get<3>(entry));
 
+    const QList<ZRXMLFinding> findings = m_findings;
+    const QStringList lines = m_lines;
+    const FindingStyle style = m_style;
     const int errors = count(ZRXMLFinding::Error);
     const int warnings = count(ZRXMLFinding::Warning);
     const int notes = count(ZRXMLFinding::Note);
     const int fileCount = m_fileCount;
-    const auto record = [findings, errors, warnings, notes, fileCount] {
+    const auto record = [findings, order, errors, warnings, notes, fileCount] {
         Table table({ { QStringLiteral("file"), QStringLiteral("FILE") },
             { QStringLiteral("line"), QStringLiteral("LINE") }, { QStringLiteral("column"), QStringLiteral("COLUMN") },
             { QStringLiteral("severity"), QStringLiteral("SEVERITY") },
             { QStringLiteral("rule"), QStringLiteral("RULE") },
             { QStringLiteral("message"), QStringLiteral("MESSAGE") },
             { QStringLiteral("suggestion"), QStringLiteral("SUGGESTION") } });
-        for (const ZRXMLFinding &finding : findings) {
+        for (const qsizetype i : order) {
+            const ZRXMLFinding &finding = findings.at(i);
             table.addRow({ finding.file, finding.line, finding.column, ZRXMLFinding::severityName(finding.severity),
                 finding.rule, finding.message,
                 finding.suggestion.isEmpty() ? QVariant() : QVariant(finding.suggestion) });
@@ -382,10 +399,13 @@ Report CatalogueChecker::report(const FindingStyle &style) const
         result.add(QStringLiteral("findings"), table).add(QStringLiteral("summary"), summary);
         return result;
     };
-    return Report(record, [findings, style, errors, warnings, notes, fileCount](QTextStream &out) {
+    return Report(record, [findings, lines, order, style, errors, warnings, notes, fileCount](QTextStream &out) {
         SourceLines sources;
-        for (const ZRXMLFinding &finding : findings)
-            printFinding(out, finding, style, &sources);
+        for (const qsizetype i : order) {
+            out << lines.at(i);
+            if (style.showSource)
+                printSource(out, findings.at(i), style.colour, &sources);
+        }
         if (style.quiet)
             return;
         QStringList counts { counting(errors, QStringLiteral("error")), counting(warnings, QStringLiteral("warning")) };
@@ -403,4 +423,5 @@ void CatalogueChecker::report(
     finding.rule = rule;
     finding.message = message;
     m_findings.append(finding);
+    m_lines.append(findingLine(finding, m_style.colour));
 }

@@ -57,6 +57,11 @@ struct FindingStyle
 class CatalogueChecker
 {
 public:
+    /** @p style: how report() writes the findings as text. */
+    explicit CatalogueChecker(const FindingStyle &style = FindingStyle())
+        : m_style(style)
+    { }
+
     /**
      * Checks @p files, each alone, as legacy products when @p legacy is true; returns the product
      * type name of each, empty for a file that has none or does not load. Files are checked in
@@ -83,7 +88,7 @@ public:
      * and a summary record in JSON, one line per finding in the form "file:line:col: severity:
      * message [rule]" and a summary line in text.
      */
-    Report report(const FindingStyle &style) const;
+    Report report() const;
 
     /** Where a file's product is, and what the checks across files need of it. */
     struct Product
@@ -98,7 +103,10 @@ private:
     void report(
         const ZRXMLFinding &place, ZRXMLFinding::Severity severity, const QString &rule, const QString &message);
 
+    FindingStyle m_style;
     QList<ZRXMLFinding> m_findings;
+    /** The text of each finding, as the style writes it. */
+    QStringList m_lines;
     /** The product of every file read, by file. */
     QHash<QString, Product> m_products;
     int m_fileCount = 0;

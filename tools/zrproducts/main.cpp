@@ -155,7 +155,8 @@ Outcome showPages(const Invocation &invocation)
 
 Outcome checkCatalogue(const Invocation &invocation)
 {
-    CatalogueChecker checker;
+    const bool terminal = isatty(STDOUT_FILENO);
+    CatalogueChecker checker({ terminal, terminal && !qEnvironmentVariableIsSet("NO_COLOR"), invocation.quiet });
     if (!invocation.arguments.isEmpty()) {
         QList<QFileInfo> files;
         QList<QDir> directories;
@@ -176,11 +177,9 @@ Outcome checkCatalogue(const Invocation &invocation)
         checker.checkReplacements(legacy, current);
     }
 
-    const bool terminal = isatty(STDOUT_FILENO);
-    const FindingStyle style { terminal, terminal && !qEnvironmentVariableIsSet("NO_COLOR"), invocation.quiet };
     const bool failed
         = checker.count(ZRXMLFinding::Error) > 0 || (invocation.werror && checker.count(ZRXMLFinding::Warning) > 0);
-    return { checker.report(style), failed ? ExitFailure : ExitSuccess };
+    return { checker.report(), failed ? ExitFailure : ExitSuccess };
 }
 
 Outcome showCategories(const Invocation &invocation)
