@@ -1,5 +1,7 @@
 #include "ZRPageTypeList.h"
 
+#include <algorithm>
+
 #include <QStringList>
 
 ZRPageTypeList::ZRPageTypeList() = default;
@@ -35,11 +37,9 @@ ZRPageTypeList &ZRPageTypeList::operator=(ZRPageTypeList &&other) noexcept = def
 
 bool ZRPageTypeList::containsPanoPageType() const
 {
-    for (const ZRPageType &pageType : m_pageTypes) {
-        if (pageType == ZRPageTypePanoramaPage)
-            return true;
-    }
-    return false;
+    // Asked for every page of an expanded list: the values are compared without the wrapper's virtual calls.
+    return std::any_of(m_pageTypes.cbegin(), m_pageTypes.cend(),
+        [](const ZRPageType &pageType) { return pageType.value() == ZRPageTypePanoramaPage; });
 }
 
 bool ZRPageTypeList::containsMatch(const ZRPageType &pageType)

@@ -280,7 +280,14 @@ QStringList CatalogueChecker::checkFiles(const QList<QFileInfo> &files, bool leg
     for (std::thread &helper : helpers)
         helper.join();
 
+    qsizetype findingCount = m_findings.size();
+    for (const FileCheck &check : checks)
+        findingCount += check.findings.size();
+    m_findings.reserve(findingCount);
+    m_lines.reserve(findingCount);
+    m_products.reserve(m_products.size() + qsizetype(checks.size()));
     QStringList types;
+    types.reserve(qsizetype(checks.size()));
     for (FileCheck &check : checks) {
         ++m_fileCount;
         if (!check.product.name.isEmpty())

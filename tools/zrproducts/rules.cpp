@@ -132,7 +132,7 @@ private:
         const ZRPageTypeList types = description.pageTypes(count);
         m_mostPages = std::max(m_mostPages, types.size());
         // A page's alignment follows from the list and its place in it: the same list adds nothing new.
-        if (types == m_previousTypes)
+        if (sameTypes(types, m_previousTypes))
             return types.size();
         m_previousTypes = types;
         for (int index = 0; index < types.size(); ++index) {
@@ -146,6 +146,12 @@ private:
             m_typesAt.insert(key(page.type, index));
         }
         return types.size();
+    }
+
+    static bool sameTypes(const ZRPageTypeList &a, const ZRPageTypeList &b)
+    {
+        return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+            [](const ZRPageType &x, const ZRPageType &y) { return x.value() == y.value(); });
     }
 
     /** Page type and index in one number; page indexes stay below 2^24, alignments take the next 8 bits. */
