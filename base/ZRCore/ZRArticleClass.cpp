@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRArticleClassEnum>;
 
 ZRArticleClass::ZRArticleClass(ZRArticleClassEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRArticleClass::ZRArticleClass(const QString &keys)
 {

@@ -4,8 +4,11 @@
 #include "ZREnumWrapper.h"
 #include "zrcore_export.h"
 
-/** Article class of a product, a 64-bit flag set. Keys: "unknown" 0, "photobook" 0x1, "calendar" 0x2, "notebook" 0x4, "card" 0x8, "adventcalendar" 0x10, "mug" 0x20, "puzzle" 0x40, "photoprint" 0x80, "gift" 0x100, "walldecor" bit 44 (the one class that needs no cover type). */
-enum ZRArticleClassEnum : quint64 {
+/** Article class of a product, a 64-bit flag set. Keys: "unknown" 0, "photobook" 0x1, "calendar" 0x2, "notebook" 0x4,
+ * "card" 0x8, "adventcalendar" 0x10, "mug" 0x20, "puzzle" 0x40, "photoprint" 0x80, "gift" 0x100, "walldecor" bit 44
+ * (the one class that needs no cover type). */
+enum ZRArticleClassEnum : quint64
+{
     ZRArticleClassUnknown = 0,
     ZRArticleClassPhotoBook = 0x1,
     ZRArticleClassCalendar = 0x2,

@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRCoverTypeEnum>;
 
 ZRCoverType::ZRCoverType(ZRCoverTypeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRCoverType::ZRCoverType(const QString &keys)
 {

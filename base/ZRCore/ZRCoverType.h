@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrcore_export.h"
 
-/** Cover (binding) type of a product. Keys: "hardcover" 1, "softcover" 2, "layflat" 4, "spiral" 8, "folded" 16, "single" 32 (one sheet printed on one side), "duplex" 64, "wrapped" 128 (one print wrapped round an object). */
-enum ZRCoverTypeEnum : int {
+/** Cover (binding) type of a product. Keys: "hardcover" 1, "softcover" 2, "layflat" 4, "spiral" 8, "folded" 16,
+ * "single" 32 (one sheet printed on one side), "duplex" 64, "wrapped" 128 (one print wrapped round an object). */
+enum ZRCoverTypeEnum : int
+{
     ZRCoverTypeHardcover = 1,
     ZRCoverTypeSoftcover = 2,
     ZRCoverTypeLayflat = 4,

@@ -3,7 +3,6 @@
 ZRDateRange::ZRDateRange(const QDate &from, const QDate &to)
     : m_from(from)
     , m_to(to)
-{
-}
+{ }
 
 ZRDateRange::~ZRDateRange() = default;

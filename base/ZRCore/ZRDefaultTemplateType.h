@@ -2,7 +2,8 @@
 #define ZRDEFAULTTEMPLATETYPE_H
 
 /** Kind of a default template of a page. */
-enum ZRDefaultTemplateType {
+enum ZRDefaultTemplateType
+{
     ZRDefaultTemplateLayout = 0,
     ZRDefaultTemplateBackground = 1,
     ZRDefaultTemplateDesign = 2,

@@ -9,7 +9,7 @@ QString environmentPath(const char *name)
 {
     return qEnvironmentVariable(name);
 }
-}
+} // namespace
 
 ZRDirectoryConfig::ZRDirectoryConfig()
     : m_resourcesDir(environmentPath("ZR_RESOURCES_DIR"))
@@ -18,8 +18,8 @@ ZRDirectoryConfig::ZRDirectoryConfig()
     , m_thumbnailsDir(environmentPath("ZR_THUMBNAILS_DIR"))
 {
     if (m_resourcesDir.isEmpty()) {
-        m_resourcesDir = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-            + QLatin1String("/zr/resources");
+        m_resourcesDir
+            = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/zr/resources");
     }
     const QString translations = qEnvironmentVariable("ZR_THEMATIC_TRANSLATIONS_DIRS");
     if (!translations.isEmpty()) {
@@ -39,7 +39,8 @@ QDir ZRDirectoryConfig::productsDir(bool current) const
 {
     ZRReadLocker locker(&m_lock);
     if (current)
-        return QDir(m_currentProductsDir.isEmpty() ? resourcePath(QStringLiteral("products/current")) : m_currentProductsDir);
+        return QDir(
+            m_currentProductsDir.isEmpty() ? resourcePath(QStringLiteral("products/current")) : m_currentProductsDir);
     return QDir(m_installedProductsDir.isEmpty() ? resourcePath(QStringLiteral("products")) : m_installedProductsDir);
 }
 

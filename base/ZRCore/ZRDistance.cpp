@@ -3,7 +3,6 @@
 ZRDistance::ZRDistance(double value, const ZRDistanceUnit &unit)
     : m_value(value)
     , m_unit(unit)
-{
-}
+{ }
 
 ZRDistance::~ZRDistance() = default;

@@ -6,8 +6,7 @@ template class ZREnumWrapper<ZRDistanceUnitEnum>;
 
 ZRDistanceUnit::ZRDistanceUnit(ZRDistanceUnitEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRDistanceUnit::ZRDistanceUnit(const QString &keys)
 {

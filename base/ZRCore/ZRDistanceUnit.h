@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrcore_export.h"
 
-/** Unit of a length. Keys: "tenth_mm" 1 (tenths of a millimetre, the unit of description files), "mm" 2, "inch" 4, "cm" 8, "pt" 16. */
-enum ZRDistanceUnitEnum : int {
+/** Unit of a length. Keys: "tenth_mm" 1 (tenths of a millimetre, the unit of description files), "mm" 2, "inch" 4, "cm"
+ * 8, "pt" 16. */
+enum ZRDistanceUnitEnum : int
+{
     ZRDistanceUnitTenthMM = 1,
     ZRDistanceUnitMM = 2,
     ZRDistanceUnitInch = 4,

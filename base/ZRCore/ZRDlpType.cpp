@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRDlpTypeEnum>;
 
 ZRDlpType::ZRDlpType(ZRDlpTypeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRDlpType::ZRDlpType(const QString &keys)
 {

@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrcore_export.h"
 
-/** Type of a download package. Keys: "background" 1, "style" 2, "design" 4, "clipart" 8, "mask" 16, "layout" 32, "storybook" 64, "colorpalette" 1024, "texture" 2048. */
-enum ZRDlpTypeEnum : int {
+/** Type of a download package. Keys: "background" 1, "style" 2, "design" 4, "clipart" 8, "mask" 16, "layout" 32,
+ * "storybook" 64, "colorpalette" 1024, "texture" 2048. */
+enum ZRDlpTypeEnum : int
+{
     ZRDlpTypeBackground = 1,
     ZRDlpTypeStyle = 2,
     ZRDlpTypeDesign = 4,

@@ -24,8 +24,7 @@ inline size_t qHash(E value, size_t seed) noexcept
  * out. Values are flag sets: decoding ORs the values of a comma-separated key list, encoding lists
  * the keys of the set bits, lowest bit first.
  */
-template<typename E>
-class ZREnumToStringTable
+template<typename E> class ZREnumToStringTable
 {
 public:
     using Underlying = std::underlying_type_t<E>;
@@ -101,8 +100,7 @@ public:
 
     /** Calls @p function with each single-bit value contained in @p value, lowest bit first; none for
      * values below 1 (signed). splitToBits() without building a set. */
-    template<typename Function>
-    static void forEachBit(E value, Function &&function)
+    template<typename Function> static void forEachBit(E value, Function &&function)
     {
         if (static_cast<Signed>(value) < 1)
             return;

@@ -13,8 +13,7 @@
  * True for enumerations declared with a fixed underlying type ("enum ZRFooEnum : int"): only
  * those can be list-initialised from their underlying type.
  */
-template<typename E, typename = void>
-struct ZRHasFixedUnderlyingType : std::false_type
+template<typename E, typename = void> struct ZRHasFixedUnderlyingType : std::false_type
 {
 };
 template<typename E>
@@ -30,8 +29,7 @@ struct ZRHasFixedUnderlyingType<E, std::void_t<decltype(E { std::underlying_type
  * one home: the header of a value class declares
  * `extern template class EXPORT ZREnumWrapper<ZRFooEnum>;` and its source file instantiates it.
  */
-template<typename E>
-class ZREnumWrapper
+template<typename E> class ZREnumWrapper
 {
     // Values are flag sets of any bits, including the sign bit; an enumeration without a fixed
     // underlying type only has the values of its named flags, and holding any other is undefined.
@@ -45,8 +43,7 @@ public:
 
     explicit ZREnumWrapper(E value = static_cast<E>(0))
         : m_value(value)
-    {
-    }
+    { }
     ZREnumWrapper(const ZREnumWrapper &) = default;
     ZREnumWrapper &operator=(const ZREnumWrapper &) = default;
     virtual ~ZREnumWrapper() = default;
@@ -116,8 +113,7 @@ protected:
     E m_value;
 };
 
-template<typename E>
-const ZREnumToStringTable<E> *ZREnumWrapper<E>::enumToStringTable() const
+template<typename E> const ZREnumToStringTable<E> *ZREnumWrapper<E>::enumToStringTable() const
 {
     static std::atomic<Table *> myTable { nullptr };
     if (Table *published = myTable.load(std::memory_order_acquire))

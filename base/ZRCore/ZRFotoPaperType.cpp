@@ -6,8 +6,7 @@ template class ZREnumWrapper<ZRFotoPaperTypeEnum>;
 
 ZRFotoPaperType::ZRFotoPaperType(ZRFotoPaperTypeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRFotoPaperType::ZRFotoPaperType(const QString &keys)
 {

@@ -5,7 +5,8 @@
 #include "zrcore_export.h"
 
 /** Surface of photo paper. Keys: "matt" 1, "glossy" 2, "silk" 4, "pearl" 8, "fineart" 16. */
-enum ZRFotoPaperTypeEnum : int {
+enum ZRFotoPaperTypeEnum : int
+{
     ZRFotoPaperTypeMatt = 1,
     ZRFotoPaperTypeGlossy = 2,
     ZRFotoPaperTypeSilk = 4,

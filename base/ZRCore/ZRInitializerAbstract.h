@@ -8,7 +8,8 @@
 class QCommandLineParser;
 
 /** How the editor starts; passed to every initializer's setup. */
-enum ZRInitializerOption {
+enum ZRInitializerOption
+{
     ZRInitializerDefault = 0,
     ZRInitializerHeadless = 1,
     ZRInitializerMasterMode = 2,

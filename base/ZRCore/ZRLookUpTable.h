@@ -4,14 +4,12 @@
 #include <QHash>
 
 /** A table from keys to values that answers a fixed default value for a key it does not hold. */
-template<typename K, typename V>
-class ZRLookUpTable
+template<typename K, typename V> class ZRLookUpTable
 {
 public:
     explicit ZRLookUpTable(const V &defaultValue = V())
         : m_defaultValue(defaultValue)
-    {
-    }
+    { }
     virtual ~ZRLookUpTable() = default;
 
     void insert(const K &key, const V &value) { m_table.insert(key, value); }

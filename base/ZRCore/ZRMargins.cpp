@@ -5,8 +5,7 @@ ZRMargins::ZRMargins(int left, int top, int right, int bottom)
     , m_top(top)
     , m_right(right)
     , m_bottom(bottom)
-{
-}
+{ }
 
 ZRMargins::~ZRMargins() = default;
 

@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZROrientationEnum>;
 
 ZROrientation::ZROrientation(ZROrientationEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZROrientation::ZROrientation(const QString &keys)
 {

@@ -7,7 +7,8 @@
 #include <QSize>
 
 /** Orientation of an article. Keys: "portrait" 1, "landscape" 2, "quadratic" 4. */
-enum ZROrientationEnum : int {
+enum ZROrientationEnum : int
+{
     ZROrientationPortrait = 1,
     ZROrientationLandscape = 2,
     ZROrientationQuadratic = 4,

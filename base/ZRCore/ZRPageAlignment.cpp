@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRPageAlignmentEnum>;
 
 ZRPageAlignment::ZRPageAlignment(ZRPageAlignmentEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRPageAlignment::ZRPageAlignment(const QString &keys)
 {

@@ -5,7 +5,8 @@
 #include "zrcore_export.h"
 
 /** Where a page lies in its spread. Keys: "left", "right", "center", "top", "bottom", "middle", "all". */
-enum ZRPageAlignmentEnum : int {
+enum ZRPageAlignmentEnum : int
+{
     ZRPageAlignmentNone = 0,
     ZRPageAlignmentLeft = 1,
     ZRPageAlignmentRight = 2,

@@ -6,8 +6,7 @@ template class ZREnumWrapper<ZRPageBindingEnum>;
 
 ZRPageBinding::ZRPageBinding(ZRPageBindingEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRPageBinding::ZRPageBinding(const QString &keys)
 {

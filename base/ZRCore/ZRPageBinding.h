@@ -5,7 +5,8 @@
 #include "zrcore_export.h"
 
 /** How the pages of a product are bound. Keys: "glued" 1, "layflat" 2, "stitched" 4, "spiral" 8, "wire_o" 16. */
-enum ZRPageBindingEnum : int {
+enum ZRPageBindingEnum : int
+{
     ZRPageBindingGlued = 1,
     ZRPageBindingLayflat = 2,
     ZRPageBindingStitched = 4,

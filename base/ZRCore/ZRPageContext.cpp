@@ -5,8 +5,7 @@
 ZRPageContext::ZRPageContext(const ZRPageType &pageType, const ZRPageAlignment &alignment)
     : m_pageType(pageType)
     , m_alignment(alignment)
-{
-}
+{ }
 
 ZRPageContext::~ZRPageContext() = default;
 
@@ -23,7 +22,7 @@ bool ZRPageContext::operator==(const ZRPageContext &other) const
 QDebug operator<<(QDebug debug, const ZRPageContext &context)
 {
     QDebugStateSaver saver(debug);
-    debug.nospace() << "ZRPageContext(" << context.pageType().encodeCSV() << " | "
-                    << context.alignment().encodeCSV() << ')';
+    debug.nospace() << "ZRPageContext(" << context.pageType().encodeCSV() << " | " << context.alignment().encodeCSV()
+                    << ')';
     return debug;
 }

@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRPageTypeEnum>;
 
 ZRPageType::ZRPageType(ZRPageTypeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRPageType::ZRPageType(const QString &keys)
 {

@@ -44,7 +44,8 @@
  * | "covers"                   | 0xF03E1  | every cover page type |
  * | "all"                      | 0xF03F9  | every page type that a page can really have |
  */
-enum ZRPageTypeEnum : int {
+enum ZRPageTypeEnum : int
+{
     ZRPageTypeNone = 0,
     ZRPageTypeSpine = 0x1,
     ZRPageTypePhoto = 0x2,

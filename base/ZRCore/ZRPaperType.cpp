@@ -6,8 +6,7 @@ template class ZREnumWrapper<ZRPaperTypeEnum>;
 
 ZRPaperType::ZRPaperType(ZRPaperTypeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRPaperType::ZRPaperType(const QString &keys)
 {

@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrcore_export.h"
 
-/** Paper of the pages. Keys: "photo_matt" 1, "photo_glossy" 2, "digital_matt" 4, "digital_glossy" 8, "recycled" 16, "premium_matt" 64, "premium_glossy" 128. */
-enum ZRPaperTypeEnum : int {
+/** Paper of the pages. Keys: "photo_matt" 1, "photo_glossy" 2, "digital_matt" 4, "digital_glossy" 8, "recycled" 16,
+ * "premium_matt" 64, "premium_glossy" 128. */
+enum ZRPaperTypeEnum : int
+{
     ZRPaperTypePhotoMatt = 1,
     ZRPaperTypePhotoGlossy = 2,
     ZRPaperTypeDigitalMatt = 4,

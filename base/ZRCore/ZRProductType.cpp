@@ -6,8 +6,7 @@
 ZRProductType::ZRProductType(const QString &name)
     : m_name(name)
     , m_hash(name.isEmpty() ? 0 : qHash(name))
-{
-}
+{ }
 
 ZRProductType::~ZRProductType() = default;
 

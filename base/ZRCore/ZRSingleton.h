@@ -17,8 +17,7 @@
  * check is repeated under the write lock so that exactly one T is made. Once T exists, instance()
  * returns it after one atomic load, without taking the lock.
  */
-template<typename T>
-class ZRSingleton
+template<typename T> class ZRSingleton
 {
 public:
     static T *instance();
@@ -30,8 +29,7 @@ protected:
     virtual ~ZRSingleton() = default;
 };
 
-template<typename T>
-T *ZRSingleton<T>::instance()
+template<typename T> T *ZRSingleton<T>::instance()
 {
     static ZRReadWriteLock lock;
     static std::atomic<T *> myInstance { nullptr };

@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRSpaceMagnitudeEnum>;
 
 ZRSpaceMagnitude::ZRSpaceMagnitude(ZRSpaceMagnitudeEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRSpaceMagnitude::ZRSpaceMagnitude(const QString &keys)
 {

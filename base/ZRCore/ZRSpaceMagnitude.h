@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrcore_export.h"
 
-/** Size class of an article. Keys: "xs" 2, "s" 4, "m_square" 8, "m_landscape" 16, "m" 32, "l_square" 64, "l" 128, "xl_square" 256, "xxl" 512. */
-enum ZRSpaceMagnitudeEnum : int {
+/** Size class of an article. Keys: "xs" 2, "s" 4, "m_square" 8, "m_landscape" 16, "m" 32, "l_square" 64, "l" 128,
+ * "xl_square" 256, "xxl" 512. */
+enum ZRSpaceMagnitudeEnum : int
+{
     ZRSpaceMagnitudeXS = 2,
     ZRSpaceMagnitudeS = 4,
     ZRSpaceMagnitudeMSquare = 8,

@@ -4,8 +4,7 @@ template class ZREnumWrapper<ZRSpotColorEnum>;
 
 ZRSpotColor::ZRSpotColor(ZRSpotColorEnum value)
     : ZREnumWrapper(value)
-{
-}
+{ }
 
 ZRSpotColor::ZRSpotColor(const QString &keys)
 {

@@ -4,8 +4,10 @@
 #include "ZREnumWrapper.h"
 #include "zrcore_export.h"
 
-/** Finishing spot colour. Keys: "none" 0, "emboss" 1 (emboss varnish), "gold" 2, "silver" 4, "rosegold" 8, "silverink" 16. */
-enum ZRSpotColorEnum : int {
+/** Finishing spot colour. Keys: "none" 0, "emboss" 1 (emboss varnish), "gold" 2, "silver" 4, "rosegold" 8,
+ * "silverink" 16. */
+enum ZRSpotColorEnum : int
+{
     ZRSpotColorNone = 0,
     ZRSpotColorEmboss = 1,
     ZRSpotColorGold = 2,

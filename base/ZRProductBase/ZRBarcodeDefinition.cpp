@@ -1,13 +1,12 @@
 #include "ZRBarcodeDefinition.h"
 
-ZRBarcodeDefinition::ZRBarcodeDefinition(const QString &symbology, const QRectF &area, const ZRDistanceUnit &unit,
-                                         const QImage &image)
+ZRBarcodeDefinition::ZRBarcodeDefinition(
+    const QString &symbology, const QRectF &area, const ZRDistanceUnit &unit, const QImage &image)
     : m_symbology(symbology)
     , m_area(area)
     , m_unit(unit)
     , m_image(image)
-{
-}
+{ }
 
 ZRBarcodeDefinition::~ZRBarcodeDefinition() = default;
 

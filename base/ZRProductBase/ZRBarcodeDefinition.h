@@ -13,8 +13,8 @@ class ZRPRODUCTBASE_EXPORT ZRBarcodeDefinition
 {
 public:
     ZRBarcodeDefinition() = default;
-    ZRBarcodeDefinition(const QString &symbology, const QRectF &area, const ZRDistanceUnit &unit,
-                        const QImage &image = QImage());
+    ZRBarcodeDefinition(
+        const QString &symbology, const QRectF &area, const ZRDistanceUnit &unit, const QImage &image = QImage());
     virtual ~ZRBarcodeDefinition();
     ZRBarcodeDefinition(const ZRBarcodeDefinition &) = default;
     ZRBarcodeDefinition &operator=(const ZRBarcodeDefinition &) = default;

@@ -11,17 +11,17 @@ const ZRXMLVocabulary barcodeVocabulary(QStringLiteral("barcode"),
     {});
 } // namespace
 
-ZRBarcodeDefinitionList ZRBarcodeDefinitionList::createFromProductsXML(const QDomElement &barcodes,
-                                                                       const ZRDistanceUnit &unit)
+ZRBarcodeDefinitionList ZRBarcodeDefinitionList::createFromProductsXML(
+    const QDomElement &barcodes, const ZRDistanceUnit &unit)
 {
     ZRBarcodeDefinitionList result;
     vocabulary.check(barcodes);
     for (QDomElement barcode = barcodes.firstChildElement(barcodeVocabulary.element()); !barcode.isNull();
          barcode = barcode.nextSiblingElement(barcodeVocabulary.element())) {
         barcodeVocabulary.check(barcode);
-        result.append(ZRBarcodeDefinition(
-            ZRXMLParser::attribute(barcode, QStringLiteral("type"), QStringLiteral("ean13")),
-            ZRXMLParser::readRectF(barcode.attributes()), unit));
+        result.append(
+            ZRBarcodeDefinition(ZRXMLParser::attribute(barcode, QStringLiteral("type"), QStringLiteral("ean13")),
+                ZRXMLParser::readRectF(barcode.attributes()), unit));
     }
     return result;
 }

@@ -9,13 +9,12 @@ const ZRXMLVocabulary variantVocabulary(
     QStringLiteral("variant"), { QStringLiteral("name"), QStringLiteral("choices"), QStringLiteral("default") }, {});
 } // namespace
 
-ZRConfiguredArticleVariant::ZRConfiguredArticleVariant(const QString &name, const QStringList &choices,
-                                                       const QString &defaultChoice)
+ZRConfiguredArticleVariant::ZRConfiguredArticleVariant(
+    const QString &name, const QStringList &choices, const QString &defaultChoice)
     : m_name(name)
     , m_choices(choices)
     , m_defaultChoice(defaultChoice)
-{
-}
+{ }
 
 ZRConfiguredArticleVariant::~ZRConfiguredArticleVariant() = default;
 
@@ -40,7 +39,8 @@ ZRConfiguredArticleVariantList::ZRConfiguredArticleVariantList(const QDomElement
             continue;
         }
         QStringList choices;
-        const QStringList parts = variant.attribute(QStringLiteral("choices")).split(QLatin1Char(','), Qt::SkipEmptyParts);
+        const QStringList parts
+            = variant.attribute(QStringLiteral("choices")).split(QLatin1Char(','), Qt::SkipEmptyParts);
         for (const QString &part : parts) {
             const QString choice = part.trimmed();
             if (!choice.isEmpty())

@@ -6,7 +6,8 @@
 #include "zrproductbase_export.h"
 
 /** Kinds of product checker, as flags; a mask of them selects checkers in ZRProductCheckerRegistry. */
-enum ZRProductCheckerType {
+enum ZRProductCheckerType
+{
     ZRProductCheckerNone = 0,
     ZRProductCheckerArticle = 1,
     ZRProductCheckerPrice = 2,

@@ -4,13 +4,11 @@
 
 ZRProductTypeList::ZRProductTypeList(const QList<ZRProductType> &types)
     : QList<ZRProductType>(types)
-{
-}
+{ }
 
 ZRProductTypeList::ZRProductTypeList(std::initializer_list<ZRProductType> types)
     : QList<ZRProductType>(types)
-{
-}
+{ }
 
 QStringList ZRProductTypeList::names() const
 {

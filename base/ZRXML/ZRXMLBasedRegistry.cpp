@@ -7,8 +7,7 @@ ZRXMLBasedRegistry::ZRXMLBasedRegistry(const QString &fileSuffix, bool recursive
     : QObject(parent)
     , m_fileSuffix(fileSuffix)
     , m_recursive(recursive)
-{
-}
+{ }
 
 ZRXMLBasedRegistry::~ZRXMLBasedRegistry() = default;
 
@@ -25,7 +24,7 @@ bool ZRXMLBasedRegistry::init()
     for (int i = 0; i < directories.size(); ++i) {
         QStringList files;
         QDirIterator it(directories.at(i), filters, QDir::Files,
-                        m_recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
+            m_recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
         while (it.hasNext())
             files.append(it.next());
         files.sort();

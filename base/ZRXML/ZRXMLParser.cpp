@@ -137,14 +137,14 @@ QString boolText(bool value)
 }
 } // namespace
 
-QString ZRXMLParser::attribute(const QDomElement &element, const QString &name, const QString &defaultValue,
-                               bool defaultIfMissing)
+QString ZRXMLParser::attribute(
+    const QDomElement &element, const QString &name, const QString &defaultValue, bool defaultIfMissing)
 {
     return element.attribute(name, defaultIfMissing ? defaultValue : QString());
 }
 
-QString ZRXMLParser::attribute(const QDomNamedNodeMap &attributes, const QString &name, const QString &defaultValue,
-                               bool defaultIfMissing)
+QString ZRXMLParser::attribute(
+    const QDomNamedNodeMap &attributes, const QString &name, const QString &defaultValue, bool defaultIfMissing)
 {
     const QDomAttr attr = findAttribute(attributes, name);
     if (attr.isNull())
@@ -210,8 +210,8 @@ int ZRXMLParser::readAngle(const QDomElement &element, const QString &name, int 
     return toInt(element.attribute(name), defaultValue);
 }
 
-ZRDistance ZRXMLParser::readDistance(const QDomElement &element, const QString &name, double defaultValue,
-                                     const ZRDistanceUnit &unit)
+ZRDistance ZRXMLParser::readDistance(
+    const QDomElement &element, const QString &name, double defaultValue, const ZRDistanceUnit &unit)
 {
     checkForm(element, name, Form::Decimal, QString::number(defaultValue));
     return ZRDistance(toDouble(element.attribute(name), defaultValue), unit);
@@ -254,17 +254,17 @@ QSize ZRXMLParser::readSize(const QDomElement &element)
 {
     checkForm(element, QStringLiteral("width"), Form::Integer, QStringLiteral("-1"));
     checkForm(element, QStringLiteral("height"), Form::Integer, QStringLiteral("-1"));
-    return QSize(toInt(element.attribute(QStringLiteral("width")), -1),
-                 toInt(element.attribute(QStringLiteral("height")), -1));
+    return QSize(
+        toInt(element.attribute(QStringLiteral("width")), -1), toInt(element.attribute(QStringLiteral("height")), -1));
 }
 
 QVector3D ZRXMLParser::readVector3D(const QDomNamedNodeMap &attributes, const QString &xName, const QString &yName,
-                                    const QString &zName, double xDefault, double yDefault, double zDefault)
+    const QString &zName, double xDefault, double yDefault, double zDefault)
 {
     checkForm(findAttribute(attributes, xName), Form::Decimal, QString::number(xDefault));
     checkForm(findAttribute(attributes, yName), Form::Decimal, QString::number(yDefault));
     checkForm(findAttribute(attributes, zName), Form::Decimal, QString::number(zDefault));
     return QVector3D(float(toDouble(findAttribute(attributes, xName), xDefault)),
-                     float(toDouble(findAttribute(attributes, yName), yDefault)),
-                     float(toDouble(findAttribute(attributes, zName), zDefault)));
+        float(toDouble(findAttribute(attributes, yName), yDefault)),
+        float(toDouble(findAttribute(attributes, zName), zDefault)));
 }

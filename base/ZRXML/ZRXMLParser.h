@@ -28,9 +28,9 @@ public:
      * @p defaultValue; with false it gives an empty text. A present but empty attribute is empty.
      */
     static QString attribute(const QDomElement &element, const QString &name, const QString &defaultValue = QString(),
-                             bool defaultIfMissing = true);
+        bool defaultIfMissing = true);
     static QString attribute(const QDomNamedNodeMap &attributes, const QString &name,
-                             const QString &defaultValue = QString(), bool defaultIfMissing = true);
+        const QString &defaultValue = QString(), bool defaultIfMissing = true);
 
     static bool boolAttribute(const QDomElement &element, const QString &name, bool defaultValue);
     static bool boolAttribute(const QDomNamedNodeMap &attributes, const QString &name, bool defaultValue);
@@ -45,8 +45,8 @@ public:
     static int readAngle(const QDomElement &element, const QString &name, int defaultValue);
 
     /** A distance in @p unit; the attribute holds the number, @p defaultValue when missing or malformed. */
-    static ZRDistance readDistance(const QDomElement &element, const QString &name, double defaultValue,
-                                   const ZRDistanceUnit &unit);
+    static ZRDistance readDistance(
+        const QDomElement &element, const QString &name, double defaultValue, const ZRDistanceUnit &unit);
 
     /**
      * The rectangle of the attributes "x", "y", "width" and "height". A null rectangle when none of
@@ -59,7 +59,7 @@ public:
     static QSize readSize(const QDomElement &element);
     /** A vector of three decimal attributes, each with its own default. */
     static QVector3D readVector3D(const QDomNamedNodeMap &attributes, const QString &xName, const QString &yName,
-                                  const QString &zName, double xDefault, double yDefault, double zDefault);
+        const QString &zName, double xDefault, double yDefault, double zDefault);
 
     /** The boolean of a text, or @p defaultValue when it is none of the accepted spellings. */
     static bool toBool(QStringView text, bool defaultValue);

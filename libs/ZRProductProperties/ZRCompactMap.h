@@ -39,7 +39,8 @@ public:
 private:
     template<typename Iterator> static Iterator lowerBound(Iterator begin, Iterator end, const Key &key)
     {
-        return std::lower_bound(begin, end, key, [](const std::pair<Key, T> &entry, const Key &k) { return entry.first < k; });
+        return std::lower_bound(
+            begin, end, key, [](const std::pair<Key, T> &entry, const Key &k) { return entry.first < k; });
     }
 
     QList<std::pair<Key, T>> m_entries;

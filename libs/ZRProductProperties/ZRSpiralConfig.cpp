@@ -87,10 +87,9 @@ QSize ZRSpiralConfig::spiralSize(Qt::Orientation orientation) const
 {
     // Counted in 64 bits and held to the range of int, so that absurd counts or sizes in a description
     // give the nearest size rather than overflow.
-    const qint64 exactLength
-        = qint64(m_spiralCount) * m_loopWidth + (qint64(m_spiralCount) - 1) * m_loopDistance;
-    const int length = int(std::clamp<qint64>(exactLength, std::numeric_limits<int>::min(),
-        std::numeric_limits<int>::max()));
+    const qint64 exactLength = qint64(m_spiralCount) * m_loopWidth + (qint64(m_spiralCount) - 1) * m_loopDistance;
+    const int length
+        = int(std::clamp<qint64>(exactLength, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
     switch (orientation) {
     case Qt::Horizontal:
         return QSize(length, m_loopHeight);
