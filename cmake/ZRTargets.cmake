@@ -34,7 +34,7 @@ endfunction()
 
 function(zr_set_warnings target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wnon-virtual-dtor -Woverloaded-virtual
-        -Werror=return-type)
+        -Wsuggest-override -Werror=return-type)
     if(ZR_WARNINGS_AS_ERRORS)
         target_compile_options(${target} PRIVATE -Werror)
     endif()

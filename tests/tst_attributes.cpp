@@ -14,7 +14,7 @@
 class tst_Attributes : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void imageEffects_data();

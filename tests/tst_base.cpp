@@ -54,7 +54,7 @@ private:
 class tst_Base : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void boolAttribute_data();

@@ -214,7 +214,7 @@ QString productAnswers(const ZRProductTypeConfigRegistry *registry, const ZRProd
 class tst_Concurrency : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 

@@ -17,7 +17,7 @@ ZRDefaultTemplateKey key(ZRPageTypeEnum pageType, ZRPageAlignmentEnum alignment,
 class tst_DefaultTemplates : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void readNames_data();

@@ -49,7 +49,7 @@ protected:
 class tst_EnumTable : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void decodeCSV_data();

@@ -69,7 +69,7 @@ void expectPerListedFault(QDirIterator &&it, const QStringList &good, const QStr
 class tst_FileSystemFaults : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void readFileRefuses_data();

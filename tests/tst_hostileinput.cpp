@@ -96,7 +96,7 @@ Q_DECLARE_METATYPE(Entry)
 class tst_HostileInput : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 

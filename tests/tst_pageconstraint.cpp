@@ -25,7 +25,7 @@ QSet<QString> describedNames(const QString &text, const QString &label)
 class tst_PageConstraint : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void matches_data();

@@ -28,7 +28,7 @@ public:
 class tst_ProductRegistrySingletons : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 

@@ -24,7 +24,7 @@ ZRProductTypeDescription withPages(const QString &pages, const QString &attribut
 class tst_ProductTypeDescription : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void defaultsOfAnEmptyProductElement();
@@ -187,14 +187,14 @@ void tst_ProductTypeDescription::pageTypes_data()
     QTest::addColumn<uint>("count");
     QTest::addColumn<QList<int>>("expected");
     // clang-format off
-    QTest::newRow("back cover takes one content page") << "cover_back, calendar_sheets" << 5u << QList<int> { 64, 10, 12, 10, 12 };
-    QTest::newRow("double sheets") << "calendar_sheets_double" << 6u << QList<int> { 10, 10, 12, 12, 10, 10 };
-    QTest::newRow("grid first") << "calendar_sheets_grid_first" << 3u << QList<int> { 12, 10, 12 };
-    QTest::newRow("content pages") << "cover_front,content_pages,cover_back" << 3u << QList<int> { 0x20, 8, 8, 8, 0x40 };
+    QTest::newRow("back cover takes one content page") << "cover_back, calendar_sheets" << 5u << QList<int> { ZRPageTypeCoverBack, ZRPageTypePhotoPage, ZRPageTypeGridPage, ZRPageTypePhotoPage, ZRPageTypeGridPage };
+    QTest::newRow("double sheets") << "calendar_sheets_double" << 6u << QList<int> { ZRPageTypePhotoPage, ZRPageTypePhotoPage, ZRPageTypeGridPage, ZRPageTypeGridPage, ZRPageTypePhotoPage, ZRPageTypePhotoPage };
+    QTest::newRow("grid first") << "calendar_sheets_grid_first" << 3u << QList<int> { ZRPageTypeGridPage, ZRPageTypePhotoPage, ZRPageTypeGridPage };
+    QTest::newRow("content pages") << "cover_front,content_pages,cover_back" << 3u << QList<int> { ZRPageTypeCoverFront, ZRPageTypeContent, ZRPageTypeContent, ZRPageTypeContent, ZRPageTypeCoverBack };
     QTest::newRow("zero content pages") << "content_pages" << 0u << QList<int>();
-    QTest::newRow("wrap cover parts") << "wrap_cover" << 2u << QList<int> { 0x80000, 0x20000, 0x40000, 0x10000 };
-    QTest::newRow("back cover at zero stays at zero") << "cover_back,content_pages" << 0u << QList<int> { 64 };
-    QTest::newRow("other entries are kept") << "title,panorama" << 9u << QList<int> { 0x10, 0x200000 };
+    QTest::newRow("wrap cover parts") << "wrap_cover" << 2u << QList<int> { ZRPageTypeWrapFront, ZRPageTypeWrapSpine, ZRPageTypeWrapFlap, ZRPageTypeWrapBack };
+    QTest::newRow("back cover at zero stays at zero") << "cover_back,content_pages" << 0u << QList<int> { ZRPageTypeCoverBack };
+    QTest::newRow("other entries are kept") << "title,panorama" << 9u << QList<int> { ZRPageTypeTitle, ZRPageTypePanorama };
     // clang-format on
 }
 
@@ -211,9 +211,9 @@ void tst_ProductTypeDescription::illegalPageTypeWarns()
     QTest::ignoreMessage(QtWarningMsg, "Illegaler Seitentyp in der Produktbeschreibung.");
     const QList<int> expanded = ZRTest::values(d.pageTypes(3));
     QCOMPARE(expanded.size(), 1 + 24 + 1);
-    QCOMPARE(expanded.first(), 8);
-    QCOMPARE(expanded.at(24), 0x408);
-    QCOMPARE(expanded.last(), 0x20);
+    QCOMPARE(expanded.first(), ZRPageTypeContent);
+    QCOMPARE(expanded.at(24), ZRPageTypeDoorPage);
+    QCOMPARE(expanded.last(), ZRPageTypeCoverFront);
 }
 
 void tst_ProductTypeDescription::pageAlignment_data()
@@ -222,18 +222,18 @@ void tst_ProductTypeDescription::pageAlignment_data()
     QTest::addColumn<QString>("pages");
     QTest::addColumn<QList<int>>("alignments");
     // clang-format off
-    QTest::newRow("simplex normal, vertical") << "binding='single' horizontalPages='false'" << "content,content" << QList<int> { 32, 32 };
-    QTest::newRow("simplex card") << "binding='single' productAlignment='card'" << "content,content,content" << QList<int> { 1, 2, 1 };
+    QTest::newRow("simplex normal, vertical") << "binding='single' horizontalPages='false'" << "content,content" << QList<int> { ZRPageAlignmentBottom, ZRPageAlignmentBottom };
+    QTest::newRow("simplex card") << "binding='single' productAlignment='card'" << "content,content,content" << QList<int> { ZRPageAlignmentLeft, ZRPageAlignmentRight, ZRPageAlignmentLeft };
     QTest::newRow("simplex collegeblock, vertical") << "binding='single' productAlignment='collegeblock' horizontalPages='false'"
-                                                    << "content,content" << QList<int> { 16, 32 };
-    QTest::newRow("simplex vario card") << "binding='single' productAlignment='vario_card'" << "content,content" << QList<int> { 4, 4 };
-    QTest::newRow("panorama") << QString() << "cover_front,panorama_page,content,content,content,content" << QList<int> { 1, 2, 2, 2, 1, 2 };
+                                                    << "content,content" << QList<int> { ZRPageAlignmentTop, ZRPageAlignmentBottom };
+    QTest::newRow("simplex vario card") << "binding='single' productAlignment='vario_card'" << "content,content" << QList<int> { ZRPageAlignmentCenter, ZRPageAlignmentCenter };
+    QTest::newRow("panorama") << QString() << "cover_front,panorama_page,content,content,content,content" << QList<int> { ZRPageAlignmentLeft, ZRPageAlignmentRight, ZRPageAlignmentRight, ZRPageAlignmentRight, ZRPageAlignmentLeft, ZRPageAlignmentRight };
     QTest::newRow("panorama after single start") << QString() << "single_start_page,content,panorama_page,content,content"
-                                                 << QList<int> { 1, 1, 2, 2, 1 };
-    QTest::newRow("cover with spine") << QString() << "cover_back,spine,cover_front,content,content" << QList<int> { 1, 4, 2, 2, 1 };
+                                                 << QList<int> { ZRPageAlignmentLeft, ZRPageAlignmentLeft, ZRPageAlignmentRight, ZRPageAlignmentRight, ZRPageAlignmentLeft };
+    QTest::newRow("cover with spine") << QString() << "cover_back,spine,cover_front,content,content" << QList<int> { ZRPageAlignmentLeft, ZRPageAlignmentCenter, ZRPageAlignmentRight, ZRPageAlignmentRight, ZRPageAlignmentLeft };
     QTest::newRow("cover with spine, vertical") << "horizontalPages='false'" << "cover_back,spine,cover_front,content"
-                                                << QList<int> { 16, 64, 32, 32 };
-    QTest::newRow("no spine alternates") << QString() << "cover_front,content,content" << QList<int> { 1, 2, 1 };
+                                                << QList<int> { ZRPageAlignmentTop, ZRPageAlignmentMiddle, ZRPageAlignmentBottom, ZRPageAlignmentBottom };
+    QTest::newRow("no spine alternates") << QString() << "cover_front,content,content" << QList<int> { ZRPageAlignmentLeft, ZRPageAlignmentRight, ZRPageAlignmentLeft };
     // clang-format on
 }
 

@@ -41,7 +41,7 @@ private:
 class tst_ProductTypeRegistry : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void readerReadsOnlyXmlFiles();

@@ -95,7 +95,7 @@ class tst_Schema : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void elementMatchesReaders_data();
     void elementMatchesReaders();

@@ -31,7 +31,7 @@ public:
 class tst_Sets : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void sharesRealKeysWith_data();

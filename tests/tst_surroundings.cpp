@@ -25,7 +25,7 @@ ZRSurroundingKey page(ZRPageTypeEnum type, ZRPageAlignmentEnum alignment, int in
 class tst_Surroundings : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void attributeLessElement();

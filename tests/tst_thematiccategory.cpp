@@ -35,7 +35,7 @@ ZRSpotColor spotColorOf(int value)
 class tst_ThematicCategory : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 

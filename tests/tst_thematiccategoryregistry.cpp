@@ -22,7 +22,7 @@ ZRThematicCategoryRegistry *registry()
 class tst_ThematicCategoryRegistry : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 

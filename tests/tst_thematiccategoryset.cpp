@@ -20,7 +20,7 @@ Q_DECLARE_METATYPE(ZRThematicCategorySet)
 class tst_ThematicCategorySet : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 

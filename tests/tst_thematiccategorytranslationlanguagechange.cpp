@@ -16,7 +16,7 @@ using ThematicCategoryTestData::tsDocument;
 class tst_ThematicCategoryTranslationLanguageChange : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void firstUseReadsHandedOverDocument();

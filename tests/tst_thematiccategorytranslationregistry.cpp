@@ -35,7 +35,7 @@ void expectWarningsOfBrokenFiles()
 class tst_ThematicCategoryTranslationRegistry : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 

@@ -52,7 +52,7 @@ QByteArray documentOfSize(qint64 size)
 class tst_XMLLoader : public QObject
 {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".?"))); }
 
     void limits_data();

@@ -15,16 +15,7 @@
 class ZRPRODUCTPROPERTIES_EXPORT ZRJigEditorAbilitiesImpl : public QSharedData
 {
 public:
-    /** Enabled, alignable and full on each page; not rotatable, no exact article, no categories. */
     ZRJigEditorAbilitiesImpl();
-    /**
-     * Reads the boolean attributes "enabled" (default true), "alignable" (true), "rotatable" (false),
-     * "fullOnEachPage" (true) and "exactArticle" (false), and every child "categories": its attribute
-     * "pageType" names one or more page types, each of which gets the comma-separated keys of the
-     * element's text (empty parts dropped, keys kept as written). A later "categories" element for the
-     * same page type replaces the earlier list; a "pageType" that names no page type is ignored.
-     * A null element gives the defaults.
-     */
     explicit ZRJigEditorAbilitiesImpl(const QDomElement &element);
     ZRJigEditorAbilitiesImpl(const ZRJigEditorAbilitiesImpl &other);
     virtual ~ZRJigEditorAbilitiesImpl();
@@ -34,7 +25,6 @@ public:
     bool rotatable() const { return m_rotatable; }
     bool fullOnEachPage() const { return m_fullOnEachPage; }
     bool requiresExactArticle() const { return m_exactArticle; }
-    /** The category keys stored for exactly @p pageType (one flag), or an empty list. */
     QStringList allowedCategories(const ZRPageType &pageType) const;
 
     bool operator==(const ZRJigEditorAbilitiesImpl &other) const;

@@ -18,21 +18,7 @@
 class ZRPRODUCTPROPERTIES_EXPORT ZRProductEditorAbilitiesImpl : public QSharedData
 {
 public:
-    /**
-     * No assistant, convertable, page naming style 0, default page tilt, start page 0, default date
-     * range, change-base-design button hidden, no jig entries.
-     */
     ZRProductEditorAbilitiesImpl();
-    /**
-     * Reads an "editorAbilities" element: attribute "convertable" (default true), attribute
-     * "enabled" of child "assistant" (default false), the text of child "pageNamingStyle", children
-     * "pageTilt", "startPage" (default 0) and "dateRangeConstraint", and child "jigs" with its
-     * attribute "showChangeBaseDesignButton" (default false). Each child node of "jigs" is one jig
-     * type's abilities, its tag name being the jig type key in any letter case; the last node for a
-     * jig type wins. A node that is not an element, or whose tag is no jig type key, is stored under
-     * jig type 0. Any other tag name than "editorAbilities", a null element included, gives the
-     * defaults.
-     */
     explicit ZRProductEditorAbilitiesImpl(const QDomElement &element);
     ZRProductEditorAbilitiesImpl(const ZRProductEditorAbilitiesImpl &other);
     virtual ~ZRProductEditorAbilitiesImpl();
@@ -45,7 +31,6 @@ public:
     int editorStartPage() const { return m_editorStartPage; }
     ZRDateRangeConstraint dateRangeConstraint() const { return m_dateRangeConstraint; }
 
-    /** The abilities stored for exactly @p jigType, or the default abilities when there is no entry. */
     ZRJigEditorAbilities jigAbilities(const ZRJigType &jigType) const;
     bool isJigEnabled(const ZRJigType &jigType) const;
     bool requiresExactArticle(const ZRJigType &jigType) const;
@@ -54,7 +39,6 @@ public:
     bool canRotateBackgrounds() const;
     bool fullBackgroundOnEachPage() const;
 
-    /** Compares everything except the page tilt and the date range. */
     bool operator==(const ZRProductEditorAbilitiesImpl &other) const;
     bool operator!=(const ZRProductEditorAbilitiesImpl &other) const;
 

@@ -25,7 +25,7 @@ constexpr int metallicSuffixLength = 9;
 ZRThematicCategory::ZRThematicCategory() = default;
 
 ZRThematicCategory::ZRThematicCategory(const QString &internalName)
-    : key(registry()->key(internalName))
+    : m_key(registry()->key(internalName))
 { }
 
 ZRThematicCategory::ZRThematicCategory(const ZRThematicCategory &other) = default;
@@ -36,17 +36,17 @@ ZRThematicCategory &ZRThematicCategory::operator=(ZRThematicCategory &&other) no
 
 QString ZRThematicCategory::internalName() const
 {
-    return registry()->internalName(key);
+    return registry()->internalName(m_key);
 }
 
 QString ZRThematicCategory::visibleName() const
 {
-    return registry()->visibleName(key);
+    return registry()->visibleName(m_key);
 }
 
 void ZRThematicCategory::setVisibleName(const QString &name)
 {
-    registry()->setVisibleName(key, name);
+    registry()->setVisibleName(m_key, name);
 }
 
 bool ZRThematicCategory::isEmpty() const

@@ -38,12 +38,12 @@ public:
     /** True for the empty category and for the category of the empty name. */
     bool isEmpty() const;
     /** The registry key; valid only in this process and never written to files. */
-    int hashValue() const { return key; }
+    int hashValue() const { return m_key; }
 
-    bool operator==(const ZRThematicCategory &other) const { return key == other.key; }
-    bool operator!=(const ZRThematicCategory &other) const { return key != other.key; }
+    bool operator==(const ZRThematicCategory &other) const { return m_key == other.m_key; }
+    bool operator!=(const ZRThematicCategory &other) const { return m_key != other.m_key; }
     /** Orders by key, that is by the order in which the registry first saw the names. */
-    bool operator<(const ZRThematicCategory &other) const { return key < other.key; }
+    bool operator<(const ZRThematicCategory &other) const { return m_key < other.m_key; }
 
     /** The show-all category, keyed by allText() in the language of the first call, for good. */
     static ZRThematicCategory categoryAll();
@@ -140,7 +140,7 @@ public:
     static bool compareAlphabetically(const ZRThematicCategory &a, const ZRThematicCategory &b);
 
 private:
-    int key = 0;
+    int m_key = 0;
 };
 
 /** Hashes by the registry key. */

@@ -23,35 +23,35 @@ QString translatedName(const QString &name)
 ZRThematicCategoryRegistry::ZRThematicCategoryRegistry()
 {
     // Room for a whole content catalogue, so loading it does not rehash.
-    internalNames.reserve(1000);
-    visibleNames.reserve(1000);
-    keysByInternalName.reserve(1000);
-    keysByVisibleName.reserve(1000);
+    m_internalNames.reserve(1000);
+    m_visibleNames.reserve(1000);
+    m_keysByInternalName.reserve(1000);
+    m_keysByVisibleName.reserve(1000);
 }
 
 ZRThematicCategoryRegistry::~ZRThematicCategoryRegistry() = default;
 
 int ZRThematicCategoryRegistry::key(const QString &name)
 {
-    QMutexLocker locker(&mutex);
+    QMutexLocker locker(&m_mutex);
     const QString lowerName = name.toLower();
-    auto found = keysByInternalName.constFind(lowerName);
-    if (found != keysByInternalName.cend())
+    auto found = m_keysByInternalName.constFind(lowerName);
+    if (found != m_keysByInternalName.cend())
         return found.value();
     // A name given in its translated form joins the category whose visible name it is.
-    if (!keysByVisibleName.isEmpty()) {
-        found = keysByVisibleName.constFind(lowerName);
-        if (found != keysByVisibleName.cend())
+    if (!m_keysByVisibleName.isEmpty()) {
+        found = m_keysByVisibleName.constFind(lowerName);
+        if (found != m_keysByVisibleName.cend())
             return found.value();
     }
 
     const QString visible = translatedName(name);
     const QString lowerVisible = visible.toLower();
     const int k = generateKey(lowerVisible);
-    internalNames.insert(k, name);
-    visibleNames.insert(k, visible);
-    keysByInternalName.insert(lowerName, k);
-    keysByVisibleName.insert(lowerVisible, k);
+    m_internalNames.insert(k, name);
+    m_visibleNames.insert(k, visible);
+    m_keysByInternalName.insert(lowerName, k);
+    m_keysByVisibleName.insert(lowerVisible, k);
     return k;
 }
 
@@ -61,36 +61,36 @@ int ZRThematicCategoryRegistry::generateKey(const QString &lowerVisibleName)
     static const QStringList neverAliased { ZRThematicCategory::framesInternalCategoryName(),
         ZRThematicCategory::passepartoutInternalCategoryName() };
 
-    if (!lowerVisibleName.isEmpty() && !keysByVisibleName.isEmpty()) {
-        const auto found = keysByVisibleName.constFind(lowerVisibleName);
-        if (found != keysByVisibleName.cend() && !neverAliased.contains(internalNames.value(found.value())))
+    if (!lowerVisibleName.isEmpty() && !m_keysByVisibleName.isEmpty()) {
+        const auto found = m_keysByVisibleName.constFind(lowerVisibleName);
+        if (found != m_keysByVisibleName.cend() && !neverAliased.contains(m_internalNames.value(found.value())))
             return found.value();
     }
-    return nextKey++;
+    return m_nextKey++;
 }
 
 QString ZRThematicCategoryRegistry::internalName(const int &key) const
 {
-    QMutexLocker locker(&mutex);
-    return internalNames.value(key);
+    QMutexLocker locker(&m_mutex);
+    return m_internalNames.value(key);
 }
 
 QString ZRThematicCategoryRegistry::visibleName(const int &key) const
 {
-    QMutexLocker locker(&mutex);
-    return visibleNames.value(key);
+    QMutexLocker locker(&m_mutex);
+    return m_visibleNames.value(key);
 }
 
 void ZRThematicCategoryRegistry::setVisibleName(const int &key, const QString &name)
 {
-    QMutexLocker locker(&mutex);
-    visibleNames.insert(key, name.isEmpty() ? translatedName(internalNames.value(key)) : name);
+    QMutexLocker locker(&m_mutex);
+    m_visibleNames.insert(key, name.isEmpty() ? translatedName(m_internalNames.value(key)) : name);
 }
 
 QList<int> ZRThematicCategoryRegistry::keys() const
 {
-    QMutexLocker locker(&mutex);
-    QList<int> result = internalNames.keys();
+    QMutexLocker locker(&m_mutex);
+    QList<int> result = m_internalNames.keys();
     std::sort(result.begin(), result.end());
     return result;
 }

@@ -55,12 +55,12 @@ protected:
     int generateKey(const QString &lowerVisibleName);
 
 private:
-    int nextKey = 1;
-    mutable QMutex mutex;
-    QHash<int, QString> internalNames;
-    QHash<int, QString> visibleNames;
-    QHash<QString, int> keysByInternalName;
-    QHash<QString, int> keysByVisibleName;
+    int m_nextKey = 1;
+    mutable QMutex m_mutex;
+    QHash<int, QString> m_internalNames;
+    QHash<int, QString> m_visibleNames;
+    QHash<QString, int> m_keysByInternalName;
+    QHash<QString, int> m_keysByVisibleName;
 };
 
 #endif

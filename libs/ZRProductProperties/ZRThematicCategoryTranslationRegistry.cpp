@@ -36,7 +36,7 @@ ZRThematicCategoryTranslationRegistry::ZRThematicCategoryTranslationRegistry()
 
 ZRThematicCategoryTranslationRegistry::~ZRThematicCategoryTranslationRegistry()
 {
-    qDeleteAll(translations);
+    qDeleteAll(m_translations);
 }
 
 bool ZRThematicCategoryTranslationRegistry::init()
@@ -110,8 +110,8 @@ bool ZRThematicCategoryTranslationRegistry::parseXML(const QDomElement &root)
 void ZRThematicCategoryTranslationRegistry::addTranslations(
     const QString &localeName, const QHash<QString, QString> &table)
 {
-    ZRWriteLocker locker(&lock);
-    QHash<QString, QString> *&target = translations[localeName];
+    ZRWriteLocker locker(&m_lock);
+    QHash<QString, QString> *&target = m_translations[localeName];
     if (!target)
         target = new QHash<QString, QString>;
     for (auto it = table.cbegin(); it != table.cend(); ++it)
@@ -120,9 +120,9 @@ void ZRThematicCategoryTranslationRegistry::addTranslations(
 
 QString ZRThematicCategoryTranslationRegistry::translation(const QString &source, const QLocale &locale) const
 {
-    ZRReadLocker locker(&lock);
+    ZRReadLocker locker(&m_lock);
     const QString key = source.simplified();
-    const QHash<QString, QString> *table = translations.value(locale.name());
+    const QHash<QString, QString> *table = m_translations.value(locale.name());
     if (table) {
         const auto it = table->constFind(key);
         if (it != table->cend())
@@ -139,7 +139,7 @@ QString ZRThematicCategoryTranslationRegistry::translation(const QString &source
 
     // A table of the language alone (such as "en" read as the language's default territory) answers
     // for every territory of that language.
-    if (const QHash<QString, QString> *languageTable = translations.value(QLocale(locale.language()).name())) {
+    if (const QHash<QString, QString> *languageTable = m_translations.value(QLocale(locale.language()).name())) {
         const auto it = languageTable->constFind(plainKey);
         if (it != languageTable->cend())
             return it.value();

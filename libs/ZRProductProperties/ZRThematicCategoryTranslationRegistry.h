@@ -72,8 +72,8 @@ protected:
     bool parseXML(const QFileInfo &file, bool primaryDirectory) override;
 
 private:
-    QHash<QString, QHash<QString, QString> *> translations;
-    mutable ZRReadWriteLock lock { QReadWriteLock::Recursive };
+    QHash<QString, QHash<QString, QString> *> m_translations;
+    mutable ZRReadWriteLock m_lock { QReadWriteLock::Recursive };
 };
 
 #endif
