@@ -238,12 +238,19 @@ void checkPicture(
     const QDir &dir, const QString &name, const QString &what, const QDomNode &node, const QString &detail = QString())
 {
     const QString path = dir.absoluteFilePath(name);
-    QString problem;
-    if (!QFileInfo(path).isFile())
-        problem = QStringLiteral("is not in %1").arg(QDir::toNativeSeparators(dir.absolutePath()));
-    else if (!QImageReader(path).canRead())
-        problem = QStringLiteral("(%1) is no picture the editor can read").arg(QDir::toNativeSeparators(path));
-    else
+    // Products of a catalogue share their pictures: each is looked at once per thread.
+    thread_local QHash<QString, QString> problems;
+    auto known = problems.constFind(path);
+    if (known == problems.cend()) {
+        QString problem;
+        if (!QFileInfo(path).isFile())
+            problem = QStringLiteral("is not in %1").arg(QDir::toNativeSeparators(dir.absolutePath()));
+        else if (!QImageReader(path).canRead())
+            problem = QStringLiteral("(%1) is no picture the editor can read").arg(QDir::toNativeSeparators(path));
+        known = problems.insert(path, problem);
+    }
+    const QString &problem = known.value();
+    if (problem.isEmpty())
         return;
     ZRXMLDiagnostics::report(ZRXMLFinding::Warning, QStringLiteral("missing-picture"),
         QStringLiteral("%1 '%2'%3 %4").arg(what, name, detail, problem), node);
