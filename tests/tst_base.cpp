@@ -182,10 +182,14 @@ void tst_Base::pageContextMatching_data()
     QTest::addColumn<int>("typeB");
     QTest::addColumn<int>("alignB");
     QTest::addColumn<bool>("matches");
-    QTest::newRow("both share") << 0xF03F9 << 0x7F << 8 << 1 << true;
-    QTest::newRow("types disjoint") << 0x20 << 0x7F << 8 << 1 << false;
-    QTest::newRow("alignments disjoint") << 8 << 2 << 8 << 1 << false;
-    QTest::newRow("zero alignment") << 8 << 0 << 8 << 1 << false;
+    QTest::newRow("both share") << int(ZRPageTypeAll) << int(ZRPageAlignmentAll) << int(ZRPageTypeContent)
+                                << int(ZRPageAlignmentLeft) << true;
+    QTest::newRow("types disjoint") << int(ZRPageTypeCoverFront) << int(ZRPageAlignmentAll) << int(ZRPageTypeContent)
+                                    << int(ZRPageAlignmentLeft) << false;
+    QTest::newRow("alignments disjoint") << int(ZRPageTypeContent) << int(ZRPageAlignmentRight)
+                                         << int(ZRPageTypeContent) << int(ZRPageAlignmentLeft) << false;
+    QTest::newRow("zero alignment") << int(ZRPageTypeContent) << int(ZRPageAlignmentNone) << int(ZRPageTypeContent)
+                                    << int(ZRPageAlignmentLeft) << false;
 }
 
 void tst_Base::pageContextMatching()
