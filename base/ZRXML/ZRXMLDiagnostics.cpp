@@ -143,7 +143,17 @@ void ZRXMLDiagnostics::checkAttributes(const QDomElement &element, const QString
     if (!activeCollector || element.isNull())
         return;
     const QDomNamedNodeMap map = element.attributes();
-    for (int i = 0; i < map.count(); ++i) {
+    // Finding an attribute by index walks the element's table from its start, so the common case,
+    // where every attribute is a known one, is settled by looking the known names up instead.
+    const int count = map.count();
+    int known = 0;
+    for (const QString &name : attributes) {
+        if (map.contains(name))
+            ++known;
+    }
+    if (known == count)
+        return;
+    for (int i = 0; i < count; ++i) {
         const QDomAttr attribute = map.item(i).toAttr();
         if (attributes.contains(attribute.name()))
             continue;
